@@ -1,0 +1,86 @@
+# kv_compile_settings(<target>): how our own code is compiled and linked. All private: nothing of it
+# reaches the users of an installed library.
+include(CheckCXXSourceCompiles)
+
+set(kv_warnings
+  -Wall -Wextra -Wpedantic   # the usual ground
+  -Wshadow                   # a hidden name is a misread name
+  -Wconversion               # values change silently
+  -Wsign-conversion          # likewise, between signed and unsigned
+  -Wold-style-cast           # casts must be searchable
+  -Wnon-virtual-dtor         # deleted through a base, it would leak
+  -Woverloaded-virtual       # a hidden overload moves no slot and is never called
+  -Wswitch-enum              # every enumerator has its case
+)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  list(APPEND kv_warnings -Wsuggest-override)  # a changed base is noticed
+elseif(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  list(APPEND kv_warnings -Winconsistent-missing-destructor-override)
+endif()
+
+# _FORTIFY_SOURCE works in optimised builds only, and not together with the sanitizers.
+set(kv_fortify "")
+if(NOT WIN32 AND NOT KV_SANITIZE AND CMAKE_BUILD_TYPE MATCHES "Rel")
+  set(CMAKE_REQUIRED_FLAGS "-O2 -Werror -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=3")
+  check_cxx_source_compiles("#include <cstring>\nint main() {}" KV_HAS_FORTIFY_SOURCE_3)
+  unset(CMAKE_REQUIRED_FLAGS)
+  set(kv_fortify -U_FORTIFY_SOURCE)
+  if(KV_HAS_FORTIFY_SOURCE_3)
+    list(APPEND kv_fortify -D_FORTIFY_SOURCE=3)
+  else()
+    list(APPEND kv_fortify -D_FORTIFY_SOURCE=2)
+  endif()
+endif()
+
+set(kv_hardening_compile "")
+set(kv_hardening_link "")
+if(WIN32)
+  set(kv_hardening_link -Wl,--high-entropy-va -Wl,--dynamicbase -Wl,--nxcompat)
+else()
+  set(kv_hardening_compile ${kv_fortify} -fstack-protector-strong)
+  set(kv_hardening_link -Wl,-z,relro -Wl,-z,now)
+  if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+    list(APPEND kv_hardening_compile -fcf-protection=full -fstack-clash-protection)
+  endif()
+endif()
+
+set(kv_instrumentation "")
+if(KV_SANITIZE)
+  list(APPEND kv_instrumentation -fsanitize=${KV_SANITIZE} -fno-sanitize-recover=all
+    -fno-omit-frame-pointer)
+endif()
+if(KV_COVERAGE)
+  list(APPEND kv_instrumentation --coverage -fprofile-update=atomic)
+endif()
+
+function(kv_compile_settings target)
+  set_target_properties(${target} PROPERTIES
+    CXX_STANDARD 20
+    CXX_STANDARD_REQUIRED ON
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+  target_compile_options(${target} PRIVATE ${kv_warnings}
+    $<$<BOOL:${KV_WARNINGS_AS_ERRORS}>:-Werror> ${kv_hardening_compile} ${kv_instrumentation})
+  target_link_options(${target} PRIVATE ${kv_hardening_link} ${kv_instrumentation})
+endfunction()
+
+# kv_shared_library(<target> <version script>): a library that we ship. Only what the version script
+# names is visible, and every symbol that it uses is found at link time.
+function(kv_shared_library target version_script)
+  kv_compile_settings(${target})
+  set_target_properties(${target} PROPERTIES
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+  if(WIN32)
+    set_target_properties(${target} PROPERTIES PREFIX "" SOVERSION "" VERSION "")
+    set_target_properties(${target} PROPERTIES DLL_NAME_WITH_SOVERSION OFF)
+  else()
+    target_link_options(${target} PRIVATE LINKER:--version-script=${version_script})
+    set_target_properties(${target} PROPERTIES LINK_DEPENDS ${version_script})
+    # Clang leaves the sanitizers' run time to the executable.
+    if(NOT (KV_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))
+      target_link_options(${target} PRIVATE -Wl,-z,defs)
+    endif()
+  endif()
+endfunction()

@@ -1,0 +1,13 @@
+# What is built beside the two libraries. All off, so that a plain build needs only a compiler, CMake
+# and the Boost headers; the presets switch on what they need.
+option(KV_BUILD_TESTS "Build the tests" OFF)
+option(KV_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(KV_BUILD_TOOLS "Build kvtool" OFF)
+option(KV_BUILD_EXAMPLES "Build the examples" OFF)
+option(KV_BUILD_FUZZERS "Build the fuzz targets (clang only)" OFF)
+option(KV_BUILD_DOCS "Build the reference documentation with Doxygen" OFF)
+
+option(KV_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+option(KV_COVERAGE "Instrument for gcovr" OFF)
+set(KV_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize=, e.g. address,undefined")
+set(KV_CORE_TARGET "" CACHE STRING "Another core library target in place of the kv_Core_r built here")

@@ -1,0 +1,16 @@
+// Everything that kv_Engine_r exports.
+
+#ifndef KV_ENGINE_KV_ENGINE_H
+#define KV_ENGINE_KV_ENGINE_H
+
+#include "core/exception.h"
+#include "core/exception_code.h"
+#include "core/logger.h"
+#include "foundation/rational32.h"
+#include "timecode/time_data.h"
+#include "timecode/timecode.h"
+#include "timecode/timecode_info.h"
+#include "timecode/timecode_listener.h"
+#include "timecode/timecode_utils.h"
+
+#endif  // KV_ENGINE_KV_ENGINE_H

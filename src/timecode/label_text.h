@@ -1,0 +1,26 @@
+// Writes labels as text without a stream.
+
+#ifndef KV_ENGINE_SRC_TIMECODE_LABEL_TEXT_H
+#define KV_ENGINE_SRC_TIMECODE_LABEL_TEXT_H
+
+#include <string>
+#include <string_view>
+
+#include "timecode/timecode.h"
+#include "timecode/timecode_state.h"
+
+namespace Korvane {
+
+// Holds every label: "255:255:255;511" is the longest that the fields can hold.
+constexpr int kLabelTextCapacity = 20;
+
+// Writes the zero-terminated label into `text` and returns its length.
+int write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_frame,
+                Timecode::FieldMarkIndication field_mark, char (&text)[kLabelTextCapacity]);
+
+// `pattern` with every %HH, %MM, %SS and %FF replaced. What a replacement writes is digits, which
+// belong to no token, so one pass gives what four successive replacements give.
+std::string expand_pattern(const TimecodeState& state, std::string_view pattern);
+
+}  // namespace Korvane
+#endif  // KV_ENGINE_SRC_TIMECODE_LABEL_TEXT_H

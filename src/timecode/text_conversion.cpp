@@ -1,0 +1,40 @@
+#include "timecode/text_conversion.h"
+
+#include <limits>
+
+#include "core/exception.h"
+
+namespace Korvane {
+namespace {
+
+// Query the length, make room, convert. Too long a text counts as a failed query.
+template <typename To, typename From>
+std::basic_string<To> convert(const std::basic_string<From>& text,
+                              int (*function)(const From*, int, To*, int), const char* query_failed,
+                              const char* length_differs) {
+  if (text.empty()) return {};
+  const bool fits = text.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max());
+  const int size = fits ? static_cast<int>(text.size()) : 0;
+  const int length = fits ? function(text.data(), size, nullptr, 0) : 0;
+  if (length <= 0) exception_throw(StringConversionFailed, query_failed, true);
+
+  std::basic_string<To> result(static_cast<std::size_t>(length), To());
+  const int converted = function(text.data(), size, result.data(), length);
+  if (converted != length) exception_throw(StringConversionFailed, length_differs, true);
+  return result;
+}
+
+}  // namespace
+
+std::wstring utf8_to_wide(const std::string& text, const TextConverter& converter) {
+  // The second text has always been the one of the other direction; callers may rely on it.
+  return convert<wchar_t>(text, converter.to_wide, "Unable to convert from string to wstring",
+                          "Unable to convert from wstring to string");
+}
+
+std::string wide_to_utf8(const std::wstring& text, const TextConverter& converter) {
+  return convert<char>(text, converter.to_utf8, "Unable to convert from wstring to string",
+                       "Unable to convert from wstring to string");
+}
+
+}  // namespace Korvane

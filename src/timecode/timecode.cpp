@@ -1,0 +1,192 @@
+#include "timecode/timecode.h"
+
+#include <algorithm>
+#include <bit>
+#include <string_view>
+
+#include "core/exception.h"
+#include "foundation/wrapping.h"
+#include "timecode/frame_rate.h"
+#include "timecode/label_text.h"
+#include "timecode/st12_word.h"
+#include "timecode/text_conversion.h"
+#include "timecode/timecode_private.h"
+
+namespace Korvane {
+namespace {
+
+// In 32 bits, wrapping; signed when it is widened.
+int milliseconds_of_day(const TimeData& clock) {
+  unsigned int milliseconds = clock.hour;
+  milliseconds = milliseconds * 60 + clock.minute;
+  milliseconds = milliseconds * 60 + clock.second;
+  milliseconds = milliseconds * 1000 + clock.millisecond;
+  return static_cast<int>(milliseconds);
+}
+
+long long frames_at(const TimeData& clock, const Rational32& edit_rate) {
+  const auto dividend = static_cast<unsigned long long>(
+      wrapping_multiply(edit_rate.numerator, milliseconds_of_day(clock)));
+  const auto divisor = static_cast<unsigned long long>(edit_rate.denominator * 1000LL);
+  return divisor == 0 ? 0 : static_cast<long long>(dividend / divisor);
+}
+
+// The digits and the drop-frame flag.
+unsigned long long pack_label(const TimecodeState& state, const St12Layout& layout) {
+  const unsigned long long word =
+      layout.frames.pack(state.frames) | layout.seconds.pack(state.seconds) |
+      layout.minutes.pack(state.minutes) | layout.hours.pack(state.hours);
+  return with_bit(word, layout.drop_frame_bit, state.drop_frame);
+}
+
+void require_text(bool given) {
+  exception_enforce(given, InvalidArgument, "Text must not be null", true);
+}
+
+const TimecodePrivate& formatted(TimecodePrivate& record, std::string_view pattern) {
+  std::string narrow = expand_pattern(record, pattern);  // `pattern` may be the former result
+  record.format_wide = utf8_to_wide(narrow);
+  record.format_narrow = std::move(narrow);
+  return record;
+}
+
+const TimecodePrivate& printed(TimecodePrivate& record, Timecode::DropFrameIndication drop_frame,
+                               Timecode::FieldMarkIndication field_mark) {
+  const int length = write_label(record, drop_frame, field_mark, record.text_narrow);
+  std::copy_n(record.text_narrow, length + 1, record.text_wide);  // ASCII is the same in UTF-16
+  return record;
+}
+
+}  // namespace
+
+Timecode::Timecode(unsigned short rate, unsigned char hours, unsigned char minutes,
+                   unsigned char seconds, unsigned char frames, bool drop_frame, bool field_mark)
+    : private_(new TimecodePrivate(rate, drop_frame)) {
+  private_->hours = hours;
+  private_->minutes = minutes;
+  private_->seconds = seconds;
+  private_->frames = frames;
+  private_->field_mark = field_mark;
+  private_->recompute_from_fields(true, true);
+}
+
+Timecode::Timecode(unsigned short rate, unsigned char hours, unsigned char minutes,
+                   unsigned char seconds, bool drop_frame)
+    : private_(new TimecodePrivate(rate, drop_frame)) {
+  private_->hours = hours;
+  private_->minutes = minutes;
+  private_->seconds = seconds;
+  private_->recompute_from_fields(true, false);
+}
+
+Timecode::Timecode(unsigned short rate, unsigned int st12)
+    : private_(new TimecodePrivate(rate, bit(st12, kSt12Word32.drop_frame_bit))) {
+  private_->hours = kSt12Word32.hours.unpack(st12);
+  private_->minutes = kSt12Word32.minutes.unpack(st12);
+  private_->seconds = kSt12Word32.seconds.unpack(st12);
+  private_->frames = kSt12Word32.frames.unpack(st12);
+  private_->field_mark = is_double_rate(rate) && bit(st12, kSt12Word32.field_mark_bit_at(rate));
+  private_->recompute_from_fields(false, true);
+}
+
+Timecode::Timecode(unsigned short rate, TimeData clock, bool drop_frame, Rational32 edit_rate)
+    : Timecode(rate, frames_at(clock, edit_rate), drop_frame) {}
+
+Timecode::Timecode(unsigned short rate, long long frame_count, bool drop_frame)
+    : private_(new TimecodePrivate(rate, frame_count, drop_frame)) {
+  private_->validate(true);
+  private_->normalize(true);
+}
+
+Timecode::Timecode(unsigned short rate, bool drop_frame) : Timecode(rate, 0LL, drop_frame) {}
+
+Timecode::Timecode(const Timecode& other) = default;
+
+Timecode& Timecode::operator=(const Timecode& other) = default;
+
+Timecode::~Timecode() = default;
+
+unsigned short Timecode::frame_rate() const { return private_->frame_rate; }
+long long Timecode::frame_count() const { return private_->frame_count; }
+long long Timecode::absolute_frame_count() const { return private_->absolute_frame_count; }
+short Timecode::days() const { return private_->days; }
+bool Timecode::drop_frame() const { return private_->drop_frame; }
+bool Timecode::field_mark() const { return private_->field_mark; }
+unsigned char Timecode::hours() const { return private_->hours; }
+unsigned char Timecode::minutes() const { return private_->minutes; }
+unsigned char Timecode::seconds() const { return private_->seconds; }
+unsigned char Timecode::frames() const { return private_->frames; }
+
+unsigned char Timecode::frames_ignore_field_mark() const {
+  if (!is_double_rate(private_->frame_rate)) return private_->frames;
+  return static_cast<unsigned char>(private_->frames * 2 + (private_->field_mark ? 1 : 0));
+}
+
+void Timecode::add(long long n) {
+  private_->frame_count = wrapping_add(private_->frame_count, n);
+  private_->normalize(true);
+}
+
+void Timecode::add_days(long long n) {
+  add(wrapping_multiply(frames_per_day(private_->frame_rate, private_->drop_frame), n));
+}
+
+void Timecode::operator++() { add(1); }
+
+void Timecode::operator--() { add(-1); }
+
+bool Timecode::operator==(const Timecode& other) {
+  // Only these three: two frames an hour apart are equal.
+  return private_->frame_rate == other.private_->frame_rate &&
+         private_->drop_frame == other.private_->drop_frame &&
+         private_->frames == other.private_->frames;
+}
+
+bool Timecode::operator!=(const Timecode& other) { return !(*this == other); }
+
+unsigned long long Timecode::to_ms(const Rational32& edit_rate) const {
+  const long long dividend = wrapping_multiply(
+      wrapping_multiply(private_->absolute_frame_count, edit_rate.denominator), 1000);
+  if (edit_rate.numerator == 0) return 0;
+  // The one quotient that does not fit is that of the smallest number and -1; it wraps.
+  const long long milliseconds =
+      edit_rate.numerator == -1 ? wrapping_negate(dividend) : dividend / edit_rate.numerator;
+  return static_cast<unsigned long long>(milliseconds);
+}
+
+const char* Timecode::c_str(DropFrameIndication drop_frame, FieldMarkIndication field_mark) const {
+  return printed(*private_, drop_frame, field_mark).text_narrow;
+}
+
+const wchar_t* Timecode::text(DropFrameIndication drop_frame,
+                              FieldMarkIndication field_mark) const {
+  return printed(*private_, drop_frame, field_mark).text_wide;
+}
+
+const char* Timecode::formatter(const char* pattern) const {
+  require_text(pattern != nullptr);
+  return formatted(*private_, pattern).format_narrow.c_str();
+}
+
+const wchar_t* Timecode::formatter(const wchar_t* pattern) const {
+  require_text(pattern != nullptr);
+  return formatted(*private_, wide_to_utf8(pattern)).format_wide.c_str();
+}
+
+unsigned int Timecode::to_12m() const {
+  unsigned long long word = pack_label(*private_, kSt12Word32);
+  if (private_->field_mark)
+    word = with_bit(word, kSt12Word32.field_mark_bit_at(private_->frame_rate), true);
+  return static_cast<unsigned int>(word);
+}
+
+unsigned long long Timecode::to_12m_full() const {
+  const unsigned long long word = pack_label(*private_, kSt12Word64);
+  // Parity over the frames byte pair only, in the place where the field mark would stand: at 25,
+  // too, it has the bit of 50.
+  const bool parity = std::popcount(static_cast<unsigned short>(word & 0xFFFF)) % 2 == 0;
+  const unsigned short rate = private_->frame_rate;
+  return with_bit(word, kSt12Word64.field_mark_bit_at(rate == 25 ? 50 : rate), parity);
+}
+
+}  // namespace Korvane

@@ -1,0 +1,88 @@
+#include "timecode/timecode_state.h"
+
+#include "core/exception.h"
+#include "timecode/frame_rate.h"
+
+namespace Korvane {
+namespace {
+
+// The number that the label of frame `count` of the day has when every number is counted, dropped
+// ones too.
+long long with_dropped_numbers(unsigned short rate, long long count) {
+  const int per_ten_minutes = rate * 600000 / 1001;
+  const int per_minute = rate * 60000 / 1001;
+  const long long tens = count / per_ten_minutes;
+  const long long rest = count % per_ten_minutes;
+  const long long dropping_minutes = (per_minute + rest - rate * 60) / per_minute;
+  return count + (9 * tens + dropping_minutes) * dropped_per_minute(rate);
+}
+
+}  // namespace
+
+TimecodeState::TimecodeState(unsigned short rate, bool drop)
+    : frame_rate(rate), drop_frame(drop && can_drop_frames(rate)) {}
+
+TimecodeState::TimecodeState(unsigned short rate, long long count, bool drop)
+    : TimecodeState(rate, drop) {
+  frame_count = count;
+}
+
+void TimecodeState::validate(bool check_drop_frame_label) const {
+  if (!is_supported_rate(frame_rate))
+    exception_throw(NotSupported, "Frame rate not supported.", true);
+  if (hours > 24)  // 24 itself is the end of the day
+    exception_throw(InvalidArgument, "Hours cannot be lower than 0 and higher than 24.", true);
+  if (minutes > 59)
+    exception_throw(InvalidArgument, "Minutes cannot be lower than 0 and higher than 59.", true);
+  if (seconds > 59)
+    exception_throw(InvalidArgument, "Seconds cannot be lower than 0 and higher than 59.", true);
+  if (frames >= frame_rate / frames_per_label_frame(frame_rate))
+    exception_throw(InvalidArgument,
+                    "Frames cannot be lower than 0 and higher than the frame rate value.", true);
+  if (drop_frame && check_drop_frame_label && minutes % 10 != 0 && seconds == 0 && frames <= 1)
+    exception_throw(
+        InvalidArgument,
+        "Frames 0 and 1 not valid on minutes non-divisable per 10 for drop frame rates.", true);
+}
+
+long long TimecodeState::count_of_label() const {
+  int count = ((hours * 60 + minutes) * 60 + seconds) * frame_rate +
+              frames * frames_per_label_frame(frame_rate);
+  if (is_double_rate(frame_rate) && field_mark) ++count;
+  if (drop_frame) count -= dropped_before(frame_rate, hours, minutes);
+  return count;
+}
+
+void TimecodeState::recompute_from_fields(bool wrap, bool check_drop_frame_label) {
+  validate(check_drop_frame_label);
+  frame_count = count_of_label();
+  normalize(wrap);
+}
+
+void TimecodeState::normalize(bool wrap) {
+  absolute_frame_count = frame_count;
+  days = 0;
+  if (wrap) {
+    const long long per_day = frames_per_day(frame_rate, drop_frame);
+    long long whole_days = frame_count / per_day;
+    absolute_frame_count = frame_count % per_day;
+    if (absolute_frame_count < 0) {
+      absolute_frame_count += per_day;
+      --whole_days;
+    }
+    days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
+  }
+
+  // At most 25 hours from here on, so 32 bits hold it.
+  const auto number = static_cast<int>(
+      drop_frame ? with_dropped_numbers(frame_rate, absolute_frame_count) : absolute_frame_count);
+  const int second_of_day = number / frame_rate;
+  const int frame_of_second = number % frame_rate;
+  hours = static_cast<unsigned char>(second_of_day / 3600);
+  minutes = static_cast<unsigned char>(second_of_day / 60 % 60);
+  seconds = static_cast<unsigned char>(second_of_day % 60);
+  frames = static_cast<unsigned char>(frame_of_second / frames_per_label_frame(frame_rate));
+  field_mark = is_double_rate(frame_rate) && frame_of_second % 2 != 0;
+}
+
+}  // namespace Korvane
