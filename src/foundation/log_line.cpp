@@ -13,7 +13,7 @@ LogLine::LogLine() { stream_.imbue(std::locale::classic()); }
 LogLine::LogLine(Sink sink) : LogLine() { set_sink(std::move(sink)); }
 
 LogLine::~LogLine() {
-  if (!sink_) return;
+  if (!sink_ || !stream_) return;  // a stream that ran out of memory holds half a line
   try {
     sink_(stream_.str().c_str());
   } catch (...) {  // NOLINT(bugprone-empty-catch): nothing may leave a destructor

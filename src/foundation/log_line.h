@@ -24,7 +24,7 @@ class LogLine {
   LogLine(const LogLine&) = delete;
   LogLine& operator=(const LogLine&) = delete;
 
-  // Delivers the line. A sink that fails loses the line: logging never ends the host.
+  // Delivers the line. Want of memory and a sink that fails lose it: logging never ends the host.
   ~LogLine();
 
   void set_sink(Sink sink);

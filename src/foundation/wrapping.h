@@ -15,7 +15,5 @@ constexpr long long wrapping_multiply(long long a, long long b) {
                                 static_cast<unsigned long long>(b));
 }
 
-constexpr long long wrapping_negate(long long a) { return wrapping_multiply(a, -1); }
-
 }  // namespace Korvane
 #endif  // KV_ENGINE_SRC_FOUNDATION_WRAPPING_H

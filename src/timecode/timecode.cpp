@@ -145,13 +145,12 @@ bool Timecode::operator==(const Timecode& other) {
 bool Timecode::operator!=(const Timecode& other) { return !(*this == other); }
 
 unsigned long long Timecode::to_ms(const Rational32& edit_rate) const {
+  // Never the smallest number, whose quotient by -1 would not fit: that would take 2^63 in the
+  // product.
   const long long dividend = wrapping_multiply(
       wrapping_multiply(private_->absolute_frame_count, edit_rate.denominator), 1000);
   if (edit_rate.numerator == 0) return 0;
-  // The one quotient that does not fit is that of the smallest number and -1; it wraps.
-  const long long milliseconds =
-      edit_rate.numerator == -1 ? wrapping_negate(dividend) : dividend / edit_rate.numerator;
-  return static_cast<unsigned long long>(milliseconds);
+  return static_cast<unsigned long long>(dividend / edit_rate.numerator);
 }
 
 const char* Timecode::c_str(DropFrameIndication drop_frame, FieldMarkIndication field_mark) const {

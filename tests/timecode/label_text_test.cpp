@@ -1,0 +1,68 @@
+#include "timecode/label_text.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <random>
+#include <regex>
+#include <string>
+
+namespace Korvane {
+namespace {
+
+std::string two_digits(unsigned int value) {
+  char text[16];
+  std::snprintf(text, sizeof text, "%02u", value);
+  return text;
+}
+
+// The four replacements one after the other, by ECMAScript regular expressions.
+std::string expand_by_regex(const TimecodeState& state, std::string text) {
+  text = std::regex_replace(text, std::regex("%HH"), two_digits(state.hours));
+  text = std::regex_replace(text, std::regex("%MM"), two_digits(state.minutes));
+  text = std::regex_replace(text, std::regex("%SS"), two_digits(state.seconds));
+  return std::regex_replace(text, std::regex("%FF"), two_digits(state.frames));
+}
+
+TEST(ExpandPattern, EqualsFourRegexReplacements) {
+  std::mt19937 random(1);  // NOLINT(cert-msc51-cpp): repeatable
+  const std::string pieces[] = {"%HH", "%MM", "%SS", "%FF", "%", "%%", "H", "M",   "S", "F",
+                                "%H",  "%M",  "%S",  "%F",  "0", "1",  "$", "\\1", " ", "\xC3\xA4"};
+  for (int i = 0; i < 20000; ++i) {
+    TimecodeState state(30, false);
+    state.hours = static_cast<unsigned char>(random());
+    state.minutes = static_cast<unsigned char>(random());
+    state.seconds = static_cast<unsigned char>(random());
+    state.frames = static_cast<unsigned char>(random());
+    std::string pattern;
+    for (auto count = random() % 12; count > 0; --count)
+      pattern += pieces[random() % std::size(pieces)];
+    ASSERT_EQ(expand_by_regex(state, pattern), expand_pattern(state, pattern)) << pattern;
+  }
+}
+
+TEST(WriteLabel, FieldsPastTwoDigitsPrintAllTheirs) {
+  TimecodeState state(60, true);
+  state.hours = state.minutes = state.seconds = state.frames = 255;
+  state.field_mark = true;
+  char text[kLabelTextCapacity];
+  EXPECT_EQ(17,
+            write_label(state, Timecode::DropFrameSemicolon, Timecode::FieldMarkDotSuffix, text));
+  EXPECT_STREQ("255:255:255;255.1", text);
+  write_label(state, Timecode::DropFrameSemicolon, Timecode::FieldMarkFullRateFrames, text);
+  EXPECT_STREQ("255:255:255;511", text);
+}
+
+TEST(WriteLabel, FortyEightIsADoubleRate) {
+  TimecodeState state(48, false);
+  state.frames = 23;
+  state.field_mark = true;
+  char text[kLabelTextCapacity];
+  write_label(state, Timecode::DropFrameSemicolon, Timecode::FieldMarkDotSuffix, text);
+  EXPECT_STREQ("00:00:00:23.1", text);
+  write_label(state, Timecode::DropFrameSemicolon, Timecode::FieldMarkFullRateFrames, text);
+  EXPECT_STREQ("00:00:00:47", text);
+}
+
+}  // namespace
+}  // namespace Korvane
