@@ -1,0 +1,37 @@
+#include "input.h"
+
+#include <filesystem>
+#include <system_error>
+
+#include "failure.h"
+#include "printable.h"
+
+namespace Korvane::Tool {
+namespace {
+
+[[noreturn]] void refuse(const std::string& path, const char* reason) {
+  throw InputError(printable_name(path) + ": " + reason + " (expected a readable file)");
+}
+
+}  // namespace
+
+Input::Input(const std::string& path, std::istream& standard_input)
+    : path_(path), name_(path == "-" ? "standard input" : path), standard_input_(standard_input) {
+  if (path == "-") return;
+  std::error_code error;
+  const std::filesystem::file_status status = std::filesystem::status(path, error);
+  if (!std::filesystem::exists(status)) refuse(path, "no such file");
+  if (std::filesystem::is_directory(status)) refuse(path, "is a folder");
+  file_.open(path, std::ios::binary);
+  if (!file_.is_open()) refuse(path, "cannot be opened");
+}
+
+std::optional<unsigned long long> Input::size() const {
+  if (is_standard_input()) return std::nullopt;
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(path_, error);
+  if (error) return std::nullopt;
+  return size;
+}
+
+}  // namespace Korvane::Tool

@@ -1,0 +1,34 @@
+// The file or stream that a command reads.
+
+#ifndef KV_TOOLS_KVTOOL_INPUT_H
+#define KV_TOOLS_KVTOOL_INPUT_H
+
+#include <fstream>
+#include <istream>
+#include <optional>
+#include <string>
+
+namespace Korvane::Tool {
+
+class Input {
+ public:
+  // "-" is `standard_input`. Raises InputError when the file is missing or cannot be read.
+  Input(const std::string& path, std::istream& standard_input);
+
+  bool is_standard_input() const { return !file_.is_open(); }
+  const std::string& name() const { return name_; }
+  const std::string& path() const { return path_; }
+  std::istream& stream() { return is_standard_input() ? standard_input_ : file_; }
+
+  // In bytes; unknown for standard input and for what is no regular file.
+  std::optional<unsigned long long> size() const;
+
+ private:
+  std::string path_;
+  std::string name_;  // for messages
+  std::ifstream file_;
+  std::istream& standard_input_;
+};
+
+}  // namespace Korvane::Tool
+#endif  // KV_TOOLS_KVTOOL_INPUT_H

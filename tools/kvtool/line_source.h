@@ -1,0 +1,45 @@
+// Timecodes from lines of text: labels or hexadecimal words. Memory does not grow with the input.
+
+#ifndef KV_TOOLS_KVTOOL_LINE_SOURCE_H
+#define KV_TOOLS_KVTOOL_LINE_SOURCE_H
+
+#include <istream>
+#include <memory>
+#include <string>
+
+#include "rate.h"
+#include "timecode_source.h"
+
+namespace Korvane::Tool {
+
+enum class LineForm { kLabel, kWord32, kWord64 };
+
+class LineSource : public TimecodeSource {
+ public:
+  // `name` is printed in errors. Reads `in`, which must outlive the source. The field mark is of
+  // 64-bit words, whose bit more often holds parity.
+  LineSource(std::istream& in, std::string name, const Rate& rate, LineForm form,
+             bool read_field_mark);
+
+  std::optional<Entry> next() override;
+  unsigned short frame_rate() const override { return rate_.nominal; }
+  const char* unit() const override { return "line"; }
+  unsigned long long bytes_read() const override { return bytes_; }
+
+ private:
+  bool read_line();
+  std::optional<Timecode> timecode_of_line() const;
+  std::string expected() const;
+
+  std::istream& in_;
+  std::string name_;
+  Rate rate_;
+  LineForm form_;
+  bool read_field_mark_;
+  std::string line_;
+  unsigned long long line_number_ = 0;
+  unsigned long long bytes_ = 0;
+};
+
+}  // namespace Korvane::Tool
+#endif  // KV_TOOLS_KVTOOL_LINE_SOURCE_H

@@ -1,0 +1,29 @@
+#include <iostream>
+
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#else
+#include <unistd.h>
+#endif
+
+#include "run.h"
+
+namespace {
+
+bool prepare_and_ask_terminal() {
+#ifdef _WIN32
+  _setmode(_fileno(stdin), _O_BINARY);
+  return _isatty(_fileno(stderr)) != 0;
+#else
+  return isatty(STDERR_FILENO) != 0;
+#endif
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  Korvane::Tool::Streams streams{std::cin, std::cout, std::cerr, prepare_and_ask_terminal()};
+  return Korvane::Tool::run({argv + 1, argv + argc}, streams);
+}

@@ -1,0 +1,54 @@
+// Walks through the frames of a video stream and hands out the timecodes that they carry.
+
+#ifndef KV_TOOLS_KVTOOL_MEDIA_FRAME_TIMECODES_H
+#define KV_TOOLS_KVTOOL_MEDIA_FRAME_TIMECODES_H
+
+#include <deque>
+#include <optional>
+#include <string>
+
+#include "media/packet_decoder.h"
+#include "rate.h"
+#include "timecode/timecode.h"
+
+namespace Korvane::Tool {
+
+struct FrameTimecode {
+  unsigned long long frame;  // counted from 0 in display order
+  Timecode value;
+};
+
+enum class TimecodeCarrier { kFrame, kGroupOfPictures };
+
+class FrameTimecodes {
+ public:
+  // `file` must outlive it. Raises InputError.
+  FrameTimecodes(const MediaFile& file, AVStream& stream, const Rate& rate);
+
+  // In the order of the frames; nothing at the end. Raises InputError for what is no timecode.
+  std::optional<FrameTimecode> next();
+
+  TimecodeCarrier carrier() const { return carrier_; }
+
+  // All frames once next() has given nothing.
+  unsigned long long frames_read() const { return frames_; }
+
+  // Frames that are in the file but, by its edit list, not part of the programme.
+  unsigned long long frames_discarded() const { return discarded_; }
+
+ private:
+  void visit_packet(const AVPacket& packet);
+  void visit_frame(const AVFrame& frame);
+
+  const std::string& name_;
+  Rate rate_;
+  TimecodeCarrier carrier_;
+  unsigned long long pictures_ = 0;  // in coded order
+  unsigned long long frames_ = 0;    // in display order
+  unsigned long long discarded_ = 0;
+  std::deque<FrameTimecode> found_;
+  PacketDecoder decoder_;
+};
+
+}  // namespace Korvane::Tool
+#endif  // KV_TOOLS_KVTOOL_MEDIA_FRAME_TIMECODES_H

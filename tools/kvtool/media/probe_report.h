@@ -1,0 +1,73 @@
+// What `kvtool probe` found: filled by one part, printed as text or JSON by others.
+
+#ifndef KV_TOOLS_KVTOOL_MEDIA_PROBE_REPORT_H
+#define KV_TOOLS_KVTOOL_MEDIA_PROBE_REPORT_H
+
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "difference_log.h"
+#include "media/frame_timecodes.h"
+#include "media/video_track.h"
+#include "streams.h"
+#include "timecode/timecode.h"
+
+namespace Korvane::Tool {
+
+// Short, because a long recording has many.
+struct ListedTimecode {
+  unsigned long long frame;
+  long long frame_count;
+  bool drop_frame;
+};
+
+struct FrameDifference {
+  unsigned long long frame;
+  Difference difference;
+};
+
+struct FrameTimecodeList {
+  TimecodeCarrier carrier;
+  std::vector<ListedTimecode> list;
+  std::vector<FrameDifference> differences;
+};
+
+struct StoredTimecode {
+  std::string text;   // as the file has it, or as its first frame carries it
+  std::string where;  // "container", "video stream 0", "frames"
+  Timecode value;     // of frame 0
+};
+
+// The container's start timecode and that of the first frame's own, brought to frame 0.
+struct StartDifference {
+  std::string container;
+  std::string first_frame;
+};
+
+struct ProbeReport {
+  std::string file;
+  std::string format, format_name;
+  std::vector<VideoTrack> video;
+  Rate rate;  // of the first video stream, which the rest is about
+  unsigned long long frames = 0;
+  std::optional<StoredTimecode> start;
+  std::optional<Timecode> end;  // of the last frame
+  std::optional<FrameTimecodeList> frame_timecodes;
+  std::optional<StartDifference> start_difference;
+
+  Timecode value_of(const ListedTimecode& listed) const {
+    return Timecode(rate.nominal, listed.frame_count, listed.drop_frame);
+  }
+};
+
+// Raises InputError.
+ProbeReport read_probe_report(const std::string& path, Streams& streams);
+
+void write_text(std::ostream& out, const ProbeReport& report);
+nlohmann::ordered_json to_json(const ProbeReport& report);
+
+}  // namespace Korvane::Tool
+#endif  // KV_TOOLS_KVTOOL_MEDIA_PROBE_REPORT_H

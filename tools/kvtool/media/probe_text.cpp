@@ -1,0 +1,84 @@
+#include <iomanip>
+
+#include "label.h"
+#include "media/probe_report.h"
+#include "printable.h"
+#include "timecode_forms.h"
+
+namespace Korvane::Tool {
+namespace {
+
+constexpr std::size_t kLabelsPerLine = 6;
+
+void write_video(std::ostream& out, const VideoTrack& track) {
+  out << "video stream " << track.stream << "  " << track.codec;
+  if (!track.profile.empty()) out << " (" << track.profile << ')';
+  out << ", " << track.width << 'x' << track.height << ", " << describe(track.frame_rate)
+      << " frames per second, ";
+  if (track.timecode_rate == 0)
+    out << "no timecode rate\n";
+  else
+    out << "timecode rate " << track.timecode_rate << '\n';
+}
+
+void write_start_and_end(std::ostream& out, const ProbeReport& report) {
+  if (!report.start) {
+    out << "timecode        none\n";
+    return;
+  }
+  out << "\nstart timecode, stored as " << quoted(report.start->text) << " ("
+      << printable_name(report.start->where) << ")\n";
+  write_text(out, forms_of(report.start->value, report.rate.edit), "  ");
+  if (!report.end) return;
+  out << "\nend timecode, of the last frame\n";
+  write_text(out, forms_of(*report.end, report.rate.edit), "  ");
+}
+
+const char* describe(TimecodeCarrier carrier) {
+  switch (carrier) {
+    case TimecodeCarrier::kFrame:
+      return "their own ST 12 words";
+    case TimecodeCarrier::kGroupOfPictures:
+      return "the headers of their groups of pictures";
+  }
+  return "";
+}
+
+void write_list(std::ostream& out, const ProbeReport& report, const FrameTimecodeList& timecodes) {
+  out << "\ntimecodes of " << timecodes.list.size() << " frames, in " << describe(timecodes.carrier)
+      << '\n';
+  std::size_t column = 0;
+  for (const ListedTimecode& listed : timecodes.list) {
+    if (column == 0) out << std::setw(8) << listed.frame;
+    out << "  " << label(report.value_of(listed));
+    column = (column + 1) % kLabelsPerLine;
+    if (column == 0) out << '\n';
+  }
+  if (column != 0) out << '\n';
+}
+
+void write_differences(std::ostream& out, const FrameTimecodeList& timecodes) {
+  out << '\n';
+  if (timecodes.differences.empty()) out << "continuous: every timecode follows from the former\n";
+  for (const FrameDifference& difference : timecodes.differences)
+    out << difference.difference.line << describe_jump(difference.difference.frames) << '\n';
+}
+
+}  // namespace
+
+void write_text(std::ostream& out, const ProbeReport& report) {
+  out << printable_name(report.file) << '\n';
+  out << "container       " << report.format_name << '\n';
+  for (const VideoTrack& track : report.video) write_video(out, track);
+  out << "frames          " << report.frames << '\n';
+  write_start_and_end(out, report);
+  if (report.frame_timecodes) {
+    write_list(out, report, *report.frame_timecodes);
+    write_differences(out, *report.frame_timecodes);
+  }
+  if (report.start_difference)
+    out << "the container starts at " << report.start_difference->container << ", the frames at "
+        << report.start_difference->first_frame << '\n';
+}
+
+}  // namespace Korvane::Tool

@@ -1,0 +1,31 @@
+// What needs the media libraries. In a build without them every function raises UsageError.
+
+#ifndef KV_TOOLS_KVTOOL_MEDIA_INPUTS_H
+#define KV_TOOLS_KVTOOL_MEDIA_INPUTS_H
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "input.h"
+#include "rate.h"
+#include "streams.h"
+#include "timecode_source.h"
+
+namespace Korvane::Tool {
+
+struct ProbeOptions {
+  std::string file;
+  bool json = false;
+};
+
+// The timecodes that the frames of the first video stream carry. A `rate` must be the file's.
+std::unique_ptr<TimecodeSource> open_media_timecodes(Input& input, const std::optional<Rate>& rate);
+
+// Longitudinal timecode on the first channel of the first audio stream.
+std::unique_ptr<TimecodeSource> open_ltc_timecodes(Input& input, const Rate& rate);
+
+int run_probe(const ProbeOptions& options, Streams& streams);
+
+}  // namespace Korvane::Tool
+#endif  // KV_TOOLS_KVTOOL_MEDIA_INPUTS_H

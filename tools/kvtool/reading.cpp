@@ -1,0 +1,110 @@
+#include "reading.h"
+
+#include <charconv>
+#include <string_view>
+
+#include "core/exception.h"
+#include "printable.h"
+#include "timecode/timecode_utils.h"
+
+namespace Korvane::Tool {
+namespace {
+
+constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+// Takes one or two digits off the front.
+bool take_field(std::string_view& text) {
+  std::size_t digits = 0;
+  while (digits < text.size() && is_digit(text[digits])) ++digits;
+  text.remove_prefix(digits);
+  return digits == 1 || digits == 2;
+}
+
+bool take_one_of(std::string_view& text, std::string_view characters) {
+  if (text.empty() || characters.find(text.front()) == std::string_view::npos) return false;
+  text.remove_prefix(1);
+  return true;
+}
+
+struct LabelForm {
+  bool valid = false;
+  std::size_t separator = 0;  // where the character before the frames stands
+  bool has_field_mark = false;
+};
+
+// The library's strict reader takes any separator and lets text follow; a typing error must not
+// pass for a timecode.
+LabelForm form_of(const std::string& text) {
+  LabelForm form;
+  std::string_view rest = text;
+  if (!take_field(rest) || !take_one_of(rest, ":") || !take_field(rest) ||
+      !take_one_of(rest, ":") || !take_field(rest))
+    return form;
+  form.separator = text.size() - rest.size();
+  if (!take_one_of(rest, ":;") || !take_field(rest)) return form;
+  form.has_field_mark = take_one_of(rest, ".");
+  form.valid = (!form.has_field_mark || take_one_of(rest, "01")) && rest.empty();
+  return form;
+}
+
+constexpr bool counts_pairs(unsigned short rate) { return rate == 50 || rate == 60; }
+
+std::string two_digits(int value) { return (value < 10 ? "0" : "") + std::to_string(value); }
+
+}  // namespace
+
+std::optional<Timecode> read_label(const std::string& text, const Rate& rate) {
+  const LabelForm form = form_of(text);
+  if (!form.valid) return std::nullopt;
+  std::string label = text;
+  if (rate.drop_frame) label[form.separator] = ';';
+  const auto field_mark =
+      form.has_field_mark ? Timecode::FieldMarkDotSuffix : Timecode::FieldMarkFullRateFrames;
+  try {
+    return TimecodeUtils::load_timecode_from_string(rate.nominal, label.c_str(),
+                                                    Timecode::DropFrameSemicolon, field_mark);
+  } catch (const Exception&) {
+    return std::nullopt;
+  }
+}
+
+std::string expected_label(const Rate& rate) {
+  const std::string form = rate.drop_frame ? "HH:MM:SS;FF" : "HH:MM:SS:FF";
+  std::string text = form + " with frames 00 to " + two_digits(rate.nominal - 1);
+  if (counts_pairs(rate.nominal))
+    text += " or " + form + ".f with frames 00 to " + two_digits(rate.nominal / 2 - 1);
+  if (rate.drop_frame) {
+    text += rate.nominal == 60 ? ", the first four frame numbers" : ", frames 00 and 01";
+    text += " only in minutes divisible by 10";
+  }
+  return text;
+}
+
+std::optional<Timecode> read_word(const std::string& text, const Rate& rate, WordSize size,
+                                  bool ignore_field_mark) {
+  std::string_view digits = text;
+  if (digits.starts_with("0x") || digits.starts_with("0X")) digits.remove_prefix(2);
+  if (digits.empty() || digits.size() > (size == WordSize::k32Bits ? 8 : 16)) return std::nullopt;
+  unsigned long long word = 0;
+  const char* const end = digits.data() + digits.size();
+  const auto [stop, error] = std::from_chars(digits.data(), end, word, 16);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  try {
+    if (size == WordSize::k32Bits) return Timecode(rate.nominal, static_cast<unsigned int>(word));
+    return TimecodeUtils::load_timecode_from_full_st12m(rate.nominal, word, ignore_field_mark);
+  } catch (const Exception&) {
+    return std::nullopt;
+  }
+}
+
+std::string expected_word(WordSize size) {
+  return size == WordSize::k32Bits ? "a 32-bit word of up to 8 hexadecimal digits"
+                                   : "a 64-bit word of up to 16 hexadecimal digits";
+}
+
+std::string no_timecode(const std::string& value, const Rate& rate, const std::string& expected) {
+  return quoted(value) + " is no timecode at rate " + describe(rate) + " (expected " + expected +
+         ')';
+}
+
+}  // namespace Korvane::Tool

@@ -1,0 +1,175 @@
+#include "run.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <exception>
+
+#include "core/exception.h"
+#include "failure.h"
+#include "gaps_command.h"
+#include "media_inputs.h"
+#include "timecode_command.h"
+
+namespace Korvane::Tool {
+namespace {
+
+constexpr const char* kRateHelp =
+    "Frame rate: 24, 25, 30, 50, 60, 23.976, 29.97, 59.94, 24000/1001, 30000/1001 or 60000/1001";
+
+constexpr const char* kToolFooter = R"(
+Results go to standard output, everything else to standard error.
+Exit codes: 0 done, 1 the input is bad or discontinuous, 2 wrong usage.
+
+Examples:
+  kvtool timecode '00:59:58;00' --rate 30 --drop
+  kvtool gaps list.txt --rate 25
+  kvtool probe clip.mxf
+
+"kvtool COMMAND --help" tells more of each command.)";
+
+constexpr const char* kTimecodeFooter = R"(
+EXPR is one of
+  a label        10:00:00:12, 10:00:00;12; at 50 and 60 with the field mark as in
+                 10:00:00:12.1, without it frames count at full rate
+  a frame count  1500, -1 (beyond a day and below zero, too)
+  a word         0x10000012: up to 8 digits a 32-bit ST 12 word, 9 to 16 the 64-bit one
+  a clock time   10:00:00 or 10:00:00.480
+With --drop a ":" before the frames is read as ";".
+
+Examples:
+  kvtool timecode '00:59:59;29' --rate 29.97 --drop --add 1
+  kvtool timecode 10:00:00:25 --rate 50 --json
+  kvtool timecode 10:00:75:00 --rate 25 --repair
+  kvtool timecode 90000 --rate 25 --format '%HHh%MMm%SSs'
+
+JSON keys: label, labels (dot_suffix, full_rate and omitted: how the field mark is
+written; ..._colon: with ":" in place of ";"), frame_rate, edit_rate, drop_frame,
+frame_number (in the second, at full rate), field_mark, frame_count,
+absolute_frame_count (within the day), day, milliseconds, st12_32, st12_64.)";
+
+constexpr const char* kGapsFooter = R"(
+Inputs:
+  text     a label a line; blank lines and white space at the end do not count
+  st12     a 32-bit ST 12 word a line in hexadecimal, with or without 0x
+  st12-64  a 64-bit ST 12 word a line likewise
+  ltc      audio whose first channel is longitudinal timecode, at rate 24, 25 or 30
+  media    any media file whose frames carry timecode; needs no --rate
+Words and longitudinal timecode tell themselves whether they are drop-frame.
+
+Examples:
+  kvtool gaps list.txt --rate 25
+  kvtool gaps - --input st12 --rate 29.97 --drop < words.txt
+  kvtool gaps tape.wav --input ltc --rate 25 --json
+  kvtool gaps clip.mxf --input media
+
+JSON keys: input, kind, rate, count, gap_count, first, last, gaps (each with the
+position in "line", "sample" or "frame", expected, actual, and frames: how far actual
+lies after expected).)";
+
+constexpr const char* kProbeFooter = R"(
+Reads every frame of the first video stream. Exit code 1 when the file has no timecode,
+is shorter than it says, or when a timecode does not follow from the one before.
+
+Examples:
+  kvtool probe clip.mxf
+  kvtool probe clip.mov --json
+
+JSON keys: file, container (format, name), video (a list: stream, codec, profile, width,
+height, frame_rate, timecode_rate), frames, timecode (null, or: stored with text and
+where, start, end, both with the keys of "kvtool timecode --json"), frame_timecodes
+(null, or: carrier, count, list of frame and timecode, differences with frame, expected,
+actual, frames), start_difference (null, or: container, first_frame).)";
+
+void add_timecode(CLI::App& app, TimecodeOptions& options) {
+  CLI::App& command = *app.add_subcommand("timecode", "Show one timecode in every form");
+  command.add_option("EXPR", options.expression, "Label, frame count, word or clock time")
+      ->required();
+  command.add_option("--rate", options.rate, kRateHelp)->required();
+  command.add_flag("--drop", options.drop_frame, "Count drop-frame (rates 30 and 60)");
+  command.add_flag("--repair", options.repair,
+                   "Read a label leniently, and tell where strict reading differs");
+  command.add_option("--add", options.add, "Step by so many frames");
+  command.add_option("--add-minutes", options.add_minutes, "Step by so many minutes");
+  command.add_option("--days", options.days, "Step by so many days");
+  CLI::Option* const format = command.add_option(
+      "--format", options.format, "Print only PATTERN with %HH, %MM, %SS and %FF replaced");
+  format->type_name("PATTERN");
+  command.add_flag("--json", options.json, "Print JSON")->excludes(format);
+  command.footer(kTimecodeFooter);
+}
+
+void add_gaps(CLI::App& app, GapsOptions& options) {
+  CLI::App& command = *app.add_subcommand("gaps", "Find the discontinuities of a sequence");
+  command.add_option("FILE", options.file, "What to read; - is standard input, the default");
+  command
+      .add_option("--input", options.input,
+                  "Kind of input: text (the default), st12, st12-64, "
+                  "ltc, media")
+      ->check(CLI::IsMember({"text", "st12", "st12-64", "ltc", "media"}));
+  command.add_option("--rate", options.rate, kRateHelp);
+  command.add_flag("--drop", options.drop_frame, "Count drop-frame (rates 30 and 60)");
+  command.add_flag("--field-mark", options.field_mark,
+                   "st12-64: read the field mark where most words hold parity");
+  command.add_flag("--json", options.json, "Print JSON");
+  command.footer(kGapsFooter);
+}
+
+void add_probe(CLI::App& app, ProbeOptions& options) {
+  CLI::App& command = *app.add_subcommand("probe", "Show the timecodes of a media file");
+  command.add_option("FILE", options.file, "Media file")->required();
+  command.add_flag("--json", options.json, "Print JSON");
+  command.footer(kProbeFooter);
+}
+
+void say(Streams& streams, std::string line) {
+  std::replace(line.begin(), line.end(), '\n', ' ');
+  streams.err << "kvtool: " << line << '\n';
+}
+
+int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
+  CLI::App app("Shows and checks the timecodes of broadcast material.", "kvtool");
+  app.set_version_flag("--version", "kvtool " KVTOOL_VERSION);
+  app.require_subcommand(1);
+  app.footer(kToolFooter);
+  TimecodeOptions timecode;
+  GapsOptions gaps;
+  ProbeOptions probe;
+  add_timecode(app, timecode);
+  add_gaps(app, gaps);
+  add_probe(app, probe);
+
+  try {
+    app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
+  } catch (const CLI::CallForHelp&) {
+    streams.out << app.help();
+    return kDone;
+  } catch (const CLI::CallForVersion& version) {
+    streams.out << version.what() << '\n';
+    return kDone;
+  } catch (const CLI::ParseError& error) {
+    throw UsageError(std::string(error.what()) + " (see kvtool --help)");
+  }
+  if (app.got_subcommand("timecode")) return run_timecode(timecode, streams);
+  if (app.got_subcommand("gaps")) return run_gaps(gaps, streams);
+  return run_probe(probe, streams);
+}
+
+}  // namespace
+
+int run(const std::vector<std::string>& args, Streams& streams) {
+  try {
+    const int code = parse_and_run(args, streams);
+    if (streams.out.flush()) return code;
+    say(streams, "the results cannot be written to standard output");
+  } catch (const UsageError& error) {
+    say(streams, error.what());
+    return kWrongUsage;
+  } catch (const Exception& error) {
+    say(streams, error.message());
+  } catch (const std::exception& error) {
+    say(streams, error.what());
+  }
+  return kBadInput;
+}
+
+}  // namespace Korvane::Tool

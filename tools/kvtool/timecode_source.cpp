@@ -1,0 +1,12 @@
+#include "timecode_source.h"
+
+namespace Korvane::Tool {
+
+TimecodeSource::~TimecodeSource() = default;
+
+std::string position_text(const std::string& name, const std::string& unit,
+                          unsigned long long position) {
+  return name + (unit == "line" ? ":" : ": " + unit + ' ') + std::to_string(position);
+}
+
+}  // namespace Korvane::Tool
