@@ -66,21 +66,34 @@ function(kv_compile_settings target)
   target_link_options(${target} PRIVATE ${kv_hardening_link} ${kv_instrumentation})
 endfunction()
 
-# kv_shared_library(<target> <version script>): a library that we ship. Only what the version script
-# names is visible, and every symbol that it uses is found at link time.
-function(kv_shared_library target version_script)
+# kv_shared_library(<target>): a library that we ship. Nothing but our own interface is visible: by the
+# version script cmake/<target>.map on ELF, by the list of names cmake/<target>.exports on Windows.
+function(kv_shared_library target)
   kv_compile_settings(${target})
   set_target_properties(${target} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(WIN32)
-    set_target_properties(${target} PROPERTIES PREFIX "" SOVERSION "" VERSION "")
-    set_target_properties(${target} PROPERTIES DLL_NAME_WITH_SOVERSION OFF)
+    set_target_properties(${target} PROPERTIES PREFIX "" DLL_NAME_WITH_SOVERSION OFF)
+    kv_module_definition(${target})
   else()
+    set(version_script ${PROJECT_SOURCE_DIR}/cmake/${target}.map)
     target_link_options(${target} PRIVATE LINKER:--version-script=${version_script})
     set_target_properties(${target} PROPERTIES LINK_DEPENDS ${version_script})
-    # Clang leaves the sanitizers' run time to the executable.
+    # Every symbol is found at link time; clang leaves the sanitizers' run time to the executable.
     if(NOT (KV_SANITIZE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang"))
       target_link_options(${target} PRIVATE -Wl,-z,defs)
     endif()
   endif()
+endfunction()
+
+# The module-definition file of <target>, from its list of exported names.
+function(kv_module_definition target)
+  set(exports ${PROJECT_SOURCE_DIR}/cmake/${target}.exports)
+  set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${exports})
+  file(STRINGS ${exports} names)
+  list(FILTER names EXCLUDE REGEX "^_ZTS")  # names of types are no symbols of their own here
+  list(TRANSFORM names APPEND " DATA" REGEX "^_ZT")
+  list(JOIN names "\n  " lines)
+  file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${target}.def "EXPORTS\n  ${lines}\n")
+  target_sources(${target} PRIVATE ${CMAKE_CURRENT_BINARY_DIR}/${target}.def)
 endfunction()

@@ -7,10 +7,12 @@
 
 #if !defined(_WIN32)
 #define KV_ENGINE_API __attribute__((visibility("default")))
-#elif defined(KV_ENGINE_BUILDING)
+#elif !defined(KV_ENGINE_BUILDING)
+#define KV_ENGINE_API __declspec(dllimport)
+#elif defined(_MSC_VER)
 #define KV_ENGINE_API __declspec(dllexport)
 #else
-#define KV_ENGINE_API __declspec(dllimport)
+#define KV_ENGINE_API  // MinGW exports by list: dllexport would show type information of foreign classes
 #endif
 
 #if defined(_MSC_VER)

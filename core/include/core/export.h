@@ -5,10 +5,12 @@
 
 #if !defined(_WIN32)
 #define KV_CORE_API __attribute__((visibility("default")))
-#elif defined(KV_CORE_BUILDING)
+#elif !defined(KV_CORE_BUILDING)
+#define KV_CORE_API __declspec(dllimport)
+#elif defined(_MSC_VER)
 #define KV_CORE_API __declspec(dllexport)
 #else
-#define KV_CORE_API __declspec(dllimport)
+#define KV_CORE_API  // MinGW exports by list: dllexport would show type information of foreign classes
 #endif
 
 #endif  // KV_CORE_EXPORT_H

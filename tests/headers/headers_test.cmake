@@ -1,0 +1,24 @@
+# cmake -D COMPILER= -D STANDARD= -D FLAGS= -D SOURCE_DIR= -P headers_test.cmake: each exported header
+# compiles alone without a warning and includes nothing but our own headers.
+cmake_minimum_required(VERSION 3.25)
+
+file(GLOB_RECURSE headers ${SOURCE_DIR}/include/*.h ${SOURCE_DIR}/core/include/*.h)
+list(LENGTH headers count)
+if(count EQUAL 0)
+  message(FATAL_ERROR "no headers found under ${SOURCE_DIR}")
+endif()
+string(REPLACE "23" "2b" standard ${STANDARD})  # the name that all supported compilers know
+foreach(header ${headers})
+  file(STRINGS ${header} foreign REGEX "^[ \t]*#[ \t]*include[ \t]*<")
+  if(foreign)
+    message(SEND_ERROR "${header} includes ${foreign}")
+  endif()
+  execute_process(
+    COMMAND ${COMPILER} ${FLAGS} -std=c++${standard} -Wall -Wextra -Wpedantic -Werror -fsyntax-only
+      -I${SOURCE_DIR}/include -I${SOURCE_DIR}/core/include -x c++ ${header}
+    RESULT_VARIABLE result ERROR_VARIABLE errors)
+  if(NOT result EQUAL 0)
+    message(SEND_ERROR "${header}:\n${errors}")
+  endif()
+endforeach()
+message(STATUS "${count} headers")

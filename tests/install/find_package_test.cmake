@@ -1,0 +1,4 @@
+cmake_minimum_required(VERSION 3.25)
+
+include(${CMAKE_CURRENT_LIST_DIR}/consumer_project.cmake)
+kv_build_and_run(find_package -D CMAKE_PREFIX_PATH=${PREFIX})
