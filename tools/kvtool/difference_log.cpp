@@ -32,9 +32,13 @@ std::optional<Difference> DifferenceLog::compare(const std::string& position,
                                                  const Timecode& current) {
   line_.clear();
   TimecodeUtils::log_timecode_difference(position.c_str(), previous, current);
-  if (line_.empty()) return std::nullopt;
   Timecode expected(previous);
   ++expected;
+  if (line_.empty()) {
+    if (previous.drop_frame() == current.drop_frame()) return std::nullopt;
+    line_ = position + ": Found change of counting, expected: " + label(expected) +
+            " actual: " + label(current);
+  }
   return Difference{line_, label(expected), label(current), shorter_way(expected, current)};
 }
 

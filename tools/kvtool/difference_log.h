@@ -25,7 +25,8 @@ class DifferenceLog {
   DifferenceLog& operator=(const DifferenceLog&) = delete;
   ~DifferenceLog();
 
-  // Nothing when `current` is the frame after `previous`, days not counted.
+  // Nothing when `current` is the frame after `previous`, days not counted, and counts as that
+  // does.
   std::optional<Difference> compare(const std::string& position, const Timecode& previous,
                                     const Timecode& current);
 

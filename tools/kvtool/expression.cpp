@@ -38,10 +38,7 @@ Timecode read_count(const std::string& text, const Rate& rate) {
 Timecode read_hexadecimal(const std::string& text, const Rate& rate) {
   const WordSize size = text.size() <= 10 ? WordSize::k32Bits : WordSize::k64Bits;
   const std::optional<Timecode> timecode = read_word(text, rate, size, true);
-  if (!timecode)
-    throw InputError(no_timecode(text, rate,
-                                 "0x and 1 to 8 hexadecimal digits of a 32-bit word or 9 to 16 of "
-                                 "a 64-bit word, its digits in range"));
+  if (!timecode) throw InputError(no_word(text, rate, size));
   return *timecode;
 }
 
@@ -109,7 +106,7 @@ Expression read_expression(const std::string& text, const Rate& rate, bool repai
   if (is_clock(text)) return {read_clock(text, rate), {}};
   if (repair) return repair_label(text, rate);
   const std::optional<Timecode> timecode = read_label(text, rate);
-  if (!timecode) throw InputError(no_timecode(text, rate, expected_label(rate)));
+  if (!timecode) throw InputError(no_label(text, rate));
   return {*timecode, {}};
 }
 

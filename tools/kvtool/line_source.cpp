@@ -55,14 +55,14 @@ std::optional<Timecode> LineSource::timecode_of_line() const {
   return std::nullopt;
 }
 
-std::string LineSource::expected() const {
+std::string LineSource::refusal() const {
   switch (form_) {
     case LineForm::kLabel:
-      return expected_label(rate_);
+      return no_label(line_, rate_);
     case LineForm::kWord32:
-      return expected_word(WordSize::k32Bits);
+      return no_word(line_, rate_, WordSize::k32Bits);
     case LineForm::kWord64:
-      return expected_word(WordSize::k64Bits);
+      return no_word(line_, rate_, WordSize::k64Bits);
   }
   return {};
 }
@@ -73,8 +73,7 @@ std::optional<Entry> LineSource::next() {
   } while (line_.empty());
   const std::optional<Timecode> timecode = timecode_of_line();
   if (!timecode)
-    throw InputError(position_text(printable_name(name_), unit(), line_number_) + ": " +
-                     no_timecode(line_, rate_, expected()));
+    throw InputError(position_text(printable_name(name_), unit(), line_number_) + ": " + refusal());
   return Entry{*timecode, line_number_};
 }
 

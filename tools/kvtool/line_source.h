@@ -29,7 +29,7 @@ class LineSource : public TimecodeSource {
  private:
   bool read_line();
   std::optional<Timecode> timecode_of_line() const;
-  std::string expected() const;
+  std::string refusal() const;
 
   std::istream& in_;
   std::string name_;

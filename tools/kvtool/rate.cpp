@@ -46,14 +46,16 @@ double per_second(const Rational32& rate) {
 Rate parse_rate(const std::string& text, bool drop_frame) {
   for (const NamedRate& known : kRates) {
     if (text != known.name) continue;
-    Rate rate{known.nominal, known.edit, drop_frame};
-    if (!drop_frame) return rate;
-    if (rate.nominal != 30 && rate.nominal != 60)
+    if (drop_frame && known.nominal != 30 && known.nominal != 60)
       throw UsageError("--drop does not go with --rate " + text + " (expected 30 or 60)");
-    rate.edit = {rate.nominal * 1000, 1001};
-    return rate;
+    return counting({known.nominal, known.edit, false}, drop_frame);
   }
   throw UsageError("--rate " + quoted(text) + " is not supported (expected " + known_rates() + ")");
+}
+
+Rate counting(const Rate& rate, bool drop_frame) {
+  if (!drop_frame) return {rate.nominal, rate.edit, false};
+  return {rate.nominal, {rate.nominal * 1000, 1001}, true};
 }
 
 std::string describe(const Rate& rate) {

@@ -15,8 +15,12 @@ struct Rate {
   bool drop_frame;
 };
 
-// Drop-frame at 30 and 60 implies the edit rates 30000/1001 and 60000/1001. Raises UsageError.
+// `drop_frame` also sets the edit rate, as counting does. Raises UsageError.
 Rate parse_rate(const std::string& text, bool drop_frame);
+
+// `rate` for a timecode that counts so: drop-frame exists for the edit rates 30000/1001 and
+// 60000/1001.
+Rate counting(const Rate& rate, bool drop_frame);
 
 // "30 drop-frame".
 std::string describe(const Rate& rate);

@@ -49,7 +49,16 @@ LabelForm form_of(const std::string& text) {
 
 constexpr bool counts_pairs(unsigned short rate) { return rate == 50 || rate == 60; }
 
-std::string two_digits(int value) { return (value < 10 ? "0" : "") + std::to_string(value); }
+std::string expected_label(const Rate& rate) {
+  const std::string form = rate.drop_frame ? "HH:MM:SS;FF" : "HH:MM:SS:FF";
+  std::string text = form + " with frames 00 to " + std::to_string(rate.nominal - 1);
+  if (counts_pairs(rate.nominal))
+    text += " or " + form + ".f with frames 00 to " + std::to_string(rate.nominal / 2 - 1);
+  if (rate.drop_frame)
+    text += std::string(", the first ") + (counts_pairs(rate.nominal) ? "four" : "two") +
+            " frame numbers of a minute only where that is divisible by 10";
+  return text;
+}
 
 }  // namespace
 
@@ -68,16 +77,11 @@ std::optional<Timecode> read_label(const std::string& text, const Rate& rate) {
   }
 }
 
-std::string expected_label(const Rate& rate) {
-  const std::string form = rate.drop_frame ? "HH:MM:SS;FF" : "HH:MM:SS:FF";
-  std::string text = form + " with frames 00 to " + two_digits(rate.nominal - 1);
-  if (counts_pairs(rate.nominal))
-    text += " or " + form + ".f with frames 00 to " + two_digits(rate.nominal / 2 - 1);
-  if (rate.drop_frame) {
-    text += rate.nominal == 60 ? ", the first four frame numbers" : ", frames 00 and 01";
-    text += " only in minutes divisible by 10";
-  }
-  return text;
+std::string no_label(const std::string& text, const Rate& rate) {
+  const bool can_drop = rate.nominal == 30 || rate.nominal == 60;
+  const bool drop_frame = rate.drop_frame || (can_drop && text.find(';') != std::string::npos);
+  const Rate counted = counting(rate, drop_frame);
+  return no_timecode(text, counted, expected_label(counted));
 }
 
 std::optional<Timecode> read_word(const std::string& text, const Rate& rate, WordSize size,
@@ -97,9 +101,11 @@ std::optional<Timecode> read_word(const std::string& text, const Rate& rate, Wor
   }
 }
 
-std::string expected_word(WordSize size) {
-  return size == WordSize::k32Bits ? "a 32-bit word of up to 8 hexadecimal digits"
-                                   : "a 64-bit word of up to 16 hexadecimal digits";
+std::string no_word(const std::string& text, const Rate& rate, WordSize size) {
+  return no_timecode(text, rate,
+                     size == WordSize::k32Bits
+                         ? "a 32-bit word of up to 8 hexadecimal digits, its fields in range"
+                         : "a 64-bit word of up to 16 hexadecimal digits, its fields in range");
 }
 
 std::string no_timecode(const std::string& value, const Rate& rate, const std::string& expected) {

@@ -1,6 +1,6 @@
-// Timecodes from the texts that the user or a file gives. Every function returns nothing when the
-// text has not the form or its values are out of range; `expected_...` say what would have been
-// right.
+// Timecodes from the texts that the user or a file gives. The read_ functions return nothing when
+// the text has not the form or its values are out of range; the no_ functions give the sentence
+// that says so: `"VALUE" is no timecode at rate R (expected ...)`.
 
 #ifndef KV_TOOLS_KVTOOL_READING_H
 #define KV_TOOLS_KVTOOL_READING_H
@@ -19,14 +19,13 @@ enum class WordSize { k32Bits, k64Bits };
 // is the field mark, and without it the frames count at full rate. With a drop-frame rate ":" is
 // read as ";".
 std::optional<Timecode> read_label(const std::string& text, const Rate& rate);
-std::string expected_label(const Rate& rate);
+std::string no_label(const std::string& text, const Rate& rate);
 
 // Hexadecimal with or without "0x". Drop-frame as the word's own flag says.
 std::optional<Timecode> read_word(const std::string& text, const Rate& rate, WordSize size,
                                   bool ignore_field_mark);
-std::string expected_word(WordSize size);
+std::string no_word(const std::string& text, const Rate& rate, WordSize size);
 
-// `"VALUE" is no timecode at rate R (expected ...)`.
 std::string no_timecode(const std::string& value, const Rate& rate, const std::string& expected);
 
 }  // namespace Korvane::Tool

@@ -16,8 +16,8 @@ namespace {
 constexpr const char* kRateHelp =
     "Frame rate: 24, 25, 30, 50, 60, 23.976, 29.97, 59.94, 24000/1001, 30000/1001 or 60000/1001";
 
-constexpr const char* kToolFooter = R"(
-Results go to standard output, everything else to standard error.
+constexpr const char* kToolFooter =
+    R"(Results go to standard output, everything else to standard error.
 Exit codes: 0 done, 1 the input is bad or discontinuous, 2 wrong usage.
 
 Examples:
@@ -27,8 +27,7 @@ Examples:
 
 "kvtool COMMAND --help" tells more of each command.)";
 
-constexpr const char* kTimecodeFooter = R"(
-EXPR is one of
+constexpr const char* kTimecodeFooter = R"(EXPR is one of
   a label        10:00:00:12, 10:00:00;12; at 50 and 60 with the field mark as in
                  10:00:00:12.1, without it frames count at full rate
   a frame count  1500, -1 (beyond a day and below zero, too)
@@ -47,8 +46,7 @@ written; ..._colon: with ":" in place of ";"), frame_rate, edit_rate, drop_frame
 frame_number (in the second, at full rate), field_mark, frame_count,
 absolute_frame_count (within the day), day, milliseconds, st12_32, st12_64.)";
 
-constexpr const char* kGapsFooter = R"(
-Inputs:
+constexpr const char* kGapsFooter = R"(Inputs:
   text     a label a line; blank lines and white space at the end do not count
   st12     a 32-bit ST 12 word a line in hexadecimal, with or without 0x
   st12-64  a 64-bit ST 12 word a line likewise
@@ -66,8 +64,8 @@ JSON keys: input, kind, rate, count, gap_count, first, last, gaps (each with the
 position in "line", "sample" or "frame", expected, actual, and frames: how far actual
 lies after expected).)";
 
-constexpr const char* kProbeFooter = R"(
-Reads every frame of the first video stream. Exit code 1 when the file has no timecode,
+constexpr const char* kProbeFooter =
+    R"(Reads every frame of the first video stream. Exit code 1 when the file has no timecode,
 is shorter than it says, or when a timecode does not follow from the one before.
 
 Examples:
@@ -83,14 +81,16 @@ actual, frames), start_difference (null, or: container, first_frame).)";
 void add_timecode(CLI::App& app, TimecodeOptions& options) {
   CLI::App& command = *app.add_subcommand("timecode", "Show one timecode in every form");
   command.add_option("EXPR", options.expression, "Label, frame count, word or clock time")
-      ->required();
-  command.add_option("--rate", options.rate, kRateHelp)->required();
+      ->required()
+      ->type_name("");
+  command.add_option("--rate", options.rate, kRateHelp)->required()->type_name("RATE");
   command.add_flag("--drop", options.drop_frame, "Count drop-frame (rates 30 and 60)");
   command.add_flag("--repair", options.repair,
                    "Read a label leniently, and tell where strict reading differs");
-  command.add_option("--add", options.add, "Step by so many frames");
-  command.add_option("--add-minutes", options.add_minutes, "Step by so many minutes");
-  command.add_option("--days", options.days, "Step by so many days");
+  command.add_option("--add", options.add, "Step by so many frames")->type_name("N");
+  command.add_option("--add-minutes", options.add_minutes, "Step by so many minutes")
+      ->type_name("N");
+  command.add_option("--days", options.days, "Step by so many days")->type_name("N");
   CLI::Option* const format = command.add_option(
       "--format", options.format, "Print only PATTERN with %HH, %MM, %SS and %FF replaced");
   format->type_name("PATTERN");
@@ -100,13 +100,12 @@ void add_timecode(CLI::App& app, TimecodeOptions& options) {
 
 void add_gaps(CLI::App& app, GapsOptions& options) {
   CLI::App& command = *app.add_subcommand("gaps", "Find the discontinuities of a sequence");
-  command.add_option("FILE", options.file, "What to read; - is standard input, the default");
-  command
-      .add_option("--input", options.input,
-                  "Kind of input: text (the default), st12, st12-64, "
-                  "ltc, media")
+  command.add_option("FILE", options.file, "What to read; - is standard input, the default")
+      ->type_name("");
+  command.add_option("--input", options.input, "Kind of input, text by default")
+      ->type_name("KIND")
       ->check(CLI::IsMember({"text", "st12", "st12-64", "ltc", "media"}));
-  command.add_option("--rate", options.rate, kRateHelp);
+  command.add_option("--rate", options.rate, kRateHelp)->type_name("RATE");
   command.add_flag("--drop", options.drop_frame, "Count drop-frame (rates 30 and 60)");
   command.add_flag("--field-mark", options.field_mark,
                    "st12-64: read the field mark where most words hold parity");
@@ -116,7 +115,7 @@ void add_gaps(CLI::App& app, GapsOptions& options) {
 
 void add_probe(CLI::App& app, ProbeOptions& options) {
   CLI::App& command = *app.add_subcommand("probe", "Show the timecodes of a media file");
-  command.add_option("FILE", options.file, "Media file")->required();
+  command.add_option("FILE", options.file, "Media file")->required()->type_name("");
   command.add_flag("--json", options.json, "Print JSON");
   command.footer(kProbeFooter);
 }
@@ -129,7 +128,7 @@ void say(Streams& streams, std::string line) {
 int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   CLI::App app("Shows and checks the timecodes of broadcast material.", "kvtool");
   app.set_version_flag("--version", "kvtool " KVTOOL_VERSION);
-  app.require_subcommand(1);
+  app.require_subcommand(0, 1);
   app.footer(kToolFooter);
   TimecodeOptions timecode;
   GapsOptions gaps;
@@ -151,7 +150,8 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   }
   if (app.got_subcommand("timecode")) return run_timecode(timecode, streams);
   if (app.got_subcommand("gaps")) return run_gaps(gaps, streams);
-  return run_probe(probe, streams);
+  if (app.got_subcommand("probe")) return run_probe(probe, streams);
+  throw UsageError("no command given (expected timecode, gaps or probe; see kvtool --help)");
 }
 
 }  // namespace

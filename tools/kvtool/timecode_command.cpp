@@ -22,7 +22,7 @@ int run_timecode(const TimecodeOptions& options, Streams& streams) {
     streams.out << timecode.formatter(options.format->c_str()) << '\n';
     return kDone;
   }
-  const TimecodeForms forms = forms_of(timecode, rate.edit);
+  const TimecodeForms forms = forms_of(timecode, counting(rate, timecode.drop_frame()).edit);
   if (options.json)
     streams.out << to_json(forms).dump(2) << '\n';
   else

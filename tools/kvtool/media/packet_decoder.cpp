@@ -14,8 +14,10 @@ LibavPtr<Object> required(Object* object) {
   return LibavPtr<Object>(object);
 }
 
-// Nobody looks at the pictures.
+// Every picture counts, also one that lacks its references, and nobody looks at it.
 void decode_roughly(AVCodecContext& codec) {
+  codec.flags |= AV_CODEC_FLAG_OUTPUT_CORRUPT;
+  codec.flags2 |= AV_CODEC_FLAG2_SHOW_ALL;
   codec.skip_loop_filter = AVDISCARD_ALL;
   codec.skip_idct = AVDISCARD_ALL;
 }

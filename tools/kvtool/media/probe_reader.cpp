@@ -44,7 +44,7 @@ std::optional<StoredTimecode> read_stored(const MediaFile& file, const AVStream&
   const std::optional<Timecode> value = read_label(stored->text, rate);
   if (!value)
     throw InputError(file.name() + ": start timecode of the " + stored->where + ": " +
-                     no_timecode(stored->text, rate, expected_label(rate)));
+                     no_label(stored->text, rate));
   return StoredTimecode{std::move(stored->text), std::move(stored->where), *value};
 }
 

@@ -48,13 +48,15 @@ void write_list(std::ostream& out, const ProbeReport& report, const FrameTimecod
   out << "\ntimecodes of " << timecodes.list.size() << " frames, in " << describe(timecodes.carrier)
       << '\n';
   std::size_t column = 0;
+  unsigned long long next = 0;
   for (const ListedTimecode& listed : timecodes.list) {
-    if (column == 0) out << std::setw(8) << listed.frame;
+    if (column == kLabelsPerLine || listed.frame != next) column = 0;
+    if (column == 0) out << (next == 0 ? "" : "\n") << std::setw(8) << listed.frame;
     out << "  " << label(report.value_of(listed));
-    column = (column + 1) % kLabelsPerLine;
-    if (column == 0) out << '\n';
+    next = listed.frame + 1;
+    ++column;
   }
-  if (column != 0) out << '\n';
+  out << '\n';
 }
 
 void write_differences(std::ostream& out, const FrameTimecodeList& timecodes) {
