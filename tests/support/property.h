@@ -6,10 +6,10 @@
 //     });
 //   }
 //
-// Each property is called with 100000 sets of arguments: small numbers, numbers of every length, and
-// the limits of their type. With KV_HAS_RAPIDCHECK, RapidCheck draws them, anew in each run, and on
-// failure reports the smallest arguments that it finds and the RC_PARAMS that repeat the run. Without
-// it, the arguments are the same in each run.
+// Each property is called with 100000 sets of arguments: small numbers, numbers of every length,
+// and the limits of their type. With KV_HAS_RAPIDCHECK, RapidCheck draws them, anew in each run,
+// and on failure reports the smallest arguments that it finds and the RC_PARAMS that repeat the
+// run. Without it, the arguments are the same in each run.
 
 #ifndef KV_ENGINE_TESTS_SUPPORT_PROPERTY_H
 #define KV_ENGINE_TESTS_SUPPORT_PROPERTY_H
@@ -58,10 +58,9 @@ struct rc::Arbitrary<Korvane::Detail::Drawn<Integer>> {
   static Gen<Korvane::Detail::Drawn<Integer>> arbitrary() {
     using Limits = std::numeric_limits<Integer>;
     return gen::map(
-        gen::weightedOneOf<Integer>(
-            {{9, gen::arbitrary<Integer>()},
-             {1, gen::element<Integer>(Limits::min(), Limits::min() + 1, Limits::max() - 1,
-                                       Limits::max())}}),
+        gen::weightedOneOf<Integer>({{9, gen::arbitrary<Integer>()},
+                                     {1, gen::element<Integer>(Limits::min(), Limits::min() + 1,
+                                                               Limits::max() - 1, Limits::max())}}),
         [](Integer value) { return Korvane::Detail::Drawn<Integer>{value}; });
   }
 };
@@ -71,18 +70,20 @@ namespace Detail {
 
 template <typename... Integers>
 void check(const std::function<::testing::AssertionResult(Integers...)>& property) {
+  using Result = rc::detail::CaseResult;
   rc::detail::TestParams parameters = rc::detail::configuration().testParams;
   parameters.maxSuccess = kCases;
   const auto result = rc::detail::checkTestable(
-      [&](Drawn<Integers>... drawn) -> std::string {
+      [&](Drawn<Integers>... drawn) {
         const ::testing::AssertionResult holds = property(drawn.value...);
-        return holds ? std::string() : holds.message();
+        return holds ? Result(Result::Type::Success)
+                     : Result(Result::Type::Failure, holds.message());
       },
       rc::detail::TestMetadata(), parameters);
   if (result.template is<rc::detail::SuccessResult>()) return;
   std::ostringstream report;
   rc::detail::printResultMessage(result, report);
-  ADD_FAILURE() << report.str();
+  ADD_FAILURE() << report.str() << "\nRepeat with RC_PARAMS=\"seed=" << parameters.seed << '"';
 }
 
 }  // namespace Detail
@@ -115,8 +116,8 @@ void check(const std::function<::testing::AssertionResult(Integers...)>& propert
   Source source(20010921);
   for (int i = 0; i < kCases; ++i) {
     const std::tuple<Drawn<Integers>...> drawn = {Drawn<Integers>{draw<Integers>(source)}...};
-    const ::testing::AssertionResult holds = std::apply(
-        [&](const auto&... arguments) { return property(arguments.value...); }, drawn);
+    const ::testing::AssertionResult holds =
+        std::apply([&](const auto&... arguments) { return property(arguments.value...); }, drawn);
     if (holds) continue;
     ADD_FAILURE() << "case " << i << ", arguments " << ::testing::PrintToString(drawn) << ": "
                   << holds.message();
