@@ -41,9 +41,11 @@ Exception::Exception(const Exception& other) noexcept : state_(share(other.state
 Exception::Exception(Exception&& other) noexcept : state_(share(other.state_)) {}
 
 Exception& Exception::operator=(const Exception& other) noexcept {
-  ExceptionState* const former = state_;
-  state_ = share(other.state_);
-  release(former);
+  if (this != &other) {
+    ExceptionState* const former = state_;
+    state_ = share(other.state_);  // first, for it may be the same
+    release(former);
+  }
   return *this;
 }
 

@@ -17,7 +17,7 @@ class SoleRecordPtr {
   SoleRecordPtr(const SoleRecordPtr&) = delete;
   SoleRecordPtr& operator=(const SoleRecordPtr&) = delete;
   ~SoleRecordPtr() {
-    static_assert(sizeof(Record) > 0, "define the owner's destructor in its .cpp");
+    static_cast<void>(sizeof(Record));  // refuses an owner whose destructor is not in its .cpp
     delete record_;
   }
 

@@ -13,7 +13,8 @@ long long with_dropped_numbers(unsigned short rate, long long count) {
   const int per_minute = rate * 60000 / 1001;
   const long long tens = count / per_ten_minutes;
   const long long rest = count % per_ten_minutes;
-  const long long dropping_minutes = (per_minute + rest - rate * 60) / per_minute;
+  const long long full_minute = static_cast<long long>(rate) * 60;
+  const long long dropping_minutes = (per_minute + rest - full_minute) / per_minute;
   return count + (9 * tens + dropping_minutes) * dropped_per_minute(rate);
 }
 

@@ -266,7 +266,7 @@ TEST(TimecodeFixer, SumsWrapAt64Bits) {
 }
 
 TEST(TimecodeFixer, KeepsTheDaysOfItsFrames) {
-  EXPECT_EQ(2, timecode_fixer(25, 0, 0, 0, 2 * 2160000, false, true).days());
+  EXPECT_EQ(2, timecode_fixer(25, 0, 0, 0, 4320000, false, true).days());
   EXPECT_EQ(-1, timecode_fixer(25, 0, 0, 0, ULLONG_MAX, false, true).days());
 }
 
@@ -294,8 +294,8 @@ constexpr MinutesCase kMinutes[] = {
     {30, true, 10, 17982},
     {30, true, -10, -17982},
     {60, true, 60, 215784},
-    {25, false, INT_MAX, 127 * 1500},
-    {25, false, INT_MIN, -128 * 1500},
+    {25, false, INT_MAX, 127 * 1500LL},
+    {25, false, INT_MIN, -128 * 1500LL},
 };
 
 TEST(AddMinutes, StepsByTheFramesOfThatManyMinutes) {

@@ -1,0 +1,50 @@
+# Sourced by the scripts: says what happens, and installs Debian packages that are missing.
+# shellcheck shell=bash
+
+say() { printf '\n== %s\n' "$*"; }
+
+die() {
+  printf '%s: %s\n' "${0##*/}" "$*" >&2
+  exit 1
+}
+
+as_root() {
+  if [ "$(id -u)" -eq 0 ]; then
+    "$@"
+  elif command -v sudo >/dev/null; then
+    sudo "$@"
+  else
+    return 1
+  fi
+}
+
+is_installed() {
+  [ "$(dpkg-query -W -f='${db:Status-Status}' "$1" 2>/dev/null)" = installed ]
+}
+
+# need PACKAGE...: installs those that are missing; asks and downloads nothing when none is.
+need() {
+  command -v dpkg-query >/dev/null ||
+    die "this system has no Debian packages; install the counterparts of these by hand: $*"
+  local package missing=()
+  for package in "$@"; do
+    is_installed "$package" || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return
+  say "Installing ${missing[*]}"
+  local log
+  log=$(mktemp)
+  if ! { as_root apt-get -q update && as_root env DEBIAN_FRONTEND=noninteractive \
+      apt-get -q -y --no-install-recommends install "${missing[@]}"; } >"$log" 2>&1; then
+    tail -n 5 "$log" >&2
+    die "could not install (needs root or sudo, and a package mirror): ${missing[*]}"
+  fi
+  rm -f "$log"
+}
+
+# What every build needs, and what the parts need on top.
+packages_build=(g++ cmake ninja-build pkg-config libboost-dev)
+packages_tools=(libavformat-dev libavcodec-dev libavutil-dev libltc-dev libcli11-dev
+  nlohmann-json3-dev ffmpeg)
+packages_tests=(libgtest-dev librapidcheck-dev libgstreamer-plugins-base1.0-dev clang)
+packages_checks=(clang-format clang-tidy googletest g++-mingw-w64-x86-64-posix wine64)
