@@ -23,7 +23,8 @@ bool is_number(std::string_view text) {
 }
 
 bool is_clock(std::string_view text) {
-  return std::count(text.begin(), text.end(), ':') == 2 && text.find(';') == std::string_view::npos;
+  return std::count(text.begin(), text.end(), ':') == 2 &&
+         text.find_first_not_of("0123456789:.") == std::string_view::npos;
 }
 
 Timecode read_count(const std::string& text, const Rate& rate) {

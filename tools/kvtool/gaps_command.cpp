@@ -15,24 +15,22 @@
 namespace Korvane::Tool {
 namespace {
 
-Rate required_rate(const GapsOptions& options) {
-  if (options.rate.empty())
-    throw UsageError("gaps --input " + options.input + " needs --rate (such as --rate 25)");
-  return parse_rate(options.rate, options.drop_frame);
+// Media files tell their own rate.
+std::optional<Rate> rate_of(const GapsOptions& options) {
+  if (!options.rate.empty()) return parse_rate(options.rate, options.drop_frame);
+  if (options.input == "media") return std::nullopt;
+  throw UsageError("gaps --input " + options.input + " needs --rate (such as --rate 25)");
 }
 
-std::unique_ptr<TimecodeSource> open_source(const GapsOptions& options, Input& input) {
-  if (options.input == "media") {
-    std::optional<Rate> rate;
-    if (!options.rate.empty()) rate = parse_rate(options.rate, options.drop_frame);
-    return open_media_timecodes(input, rate);
-  }
-  const Rate rate = required_rate(options);
-  if (options.input == "ltc") return open_ltc_timecodes(input, rate);
+std::unique_ptr<TimecodeSource> open_source(const GapsOptions& options, Input& input,
+                                            const std::optional<Rate>& rate) {
+  if (options.input == "media") return open_media_timecodes(input, rate);
+  if (options.input == "ltc") return open_ltc_timecodes(input, rate.value());
   const LineForm form = options.input == "text"   ? LineForm::kLabel
                         : options.input == "st12" ? LineForm::kWord32
                                                   : LineForm::kWord64;
-  return std::make_unique<LineSource>(input.stream(), input.name(), rate, form, options.field_mark);
+  return std::make_unique<LineSource>(input.stream(), input.name(), rate.value(), form,
+                                      options.field_mark);
 }
 
 class GapFinder {
@@ -79,8 +77,9 @@ class GapFinder {
 }  // namespace
 
 int run_gaps(const GapsOptions& options, Streams& streams) {
+  const std::optional<Rate> rate = rate_of(options);
   Input input(options.file, streams.in);
-  const std::unique_ptr<TimecodeSource> source = open_source(options, input);
+  const std::unique_ptr<TimecodeSource> source = open_source(options, input, rate);
   std::unique_ptr<GapReport> report;
   if (options.json)
     report = std::make_unique<GapJson>(streams.out);

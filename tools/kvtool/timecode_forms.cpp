@@ -9,7 +9,7 @@ namespace {
 std::string hexadecimal(unsigned long long word, int digits) {
   std::string text(static_cast<std::size_t>(digits), '0');
   for (auto digit = text.rbegin(); digit != text.rend(); ++digit, word >>= 4U)
-    *digit = "0123456789abcdef"[word & 0xFU];
+    *digit = "0123456789ABCDEF"[word & 0xFU];
   return "0x" + text;
 }
 
