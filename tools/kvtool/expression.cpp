@@ -37,7 +37,7 @@ Timecode read_count(const std::string& text, const Rate& rate) {
 }
 
 Timecode read_hexadecimal(const std::string& text, const Rate& rate) {
-  const WordSize size = text.size() <= 10 ? WordSize::k32Bits : WordSize::k64Bits;
+  const WordSize size = text.size() <= 10 ? WordSize::Bits32 : WordSize::Bits64;
   const std::optional<Timecode> timecode = read_word(text, rate, size, true);
   if (!timecode) throw InputError(no_word(text, rate, size));
   return *timecode;

@@ -8,7 +8,7 @@
 
 namespace Korvane::Tool {
 
-enum ExitCode : int { kDone = 0, kBadInput = 1, kWrongUsage = 2 };
+enum ExitCode : int { Done = 0, BadInput = 1, WrongUsage = 2 };
 
 class InputError : public std::runtime_error {
  public:

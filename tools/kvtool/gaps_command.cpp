@@ -26,9 +26,9 @@ std::unique_ptr<TimecodeSource> open_source(const GapsOptions& options, Input& i
                                             const std::optional<Rate>& rate) {
   if (options.input == "media") return open_media_timecodes(input, rate);
   if (options.input == "ltc") return open_ltc_timecodes(input, rate.value());
-  const LineForm form = options.input == "text"   ? LineForm::kLabel
-                        : options.input == "st12" ? LineForm::kWord32
-                                                  : LineForm::kWord64;
+  const LineForm form = options.input == "text"   ? LineForm::Label
+                        : options.input == "st12" ? LineForm::Word32
+                                                  : LineForm::Word64;
   return std::make_unique<LineSource>(input.stream(), input.name(), rate.value(), form,
                                       options.field_mark);
 }
@@ -93,7 +93,7 @@ int run_gaps(const GapsOptions& options, Streams& streams) {
   if (totals.count == 0)
     throw InputError(printable_name(input.name()) + ": no timecode (expected at least one)");
   report->finish(totals);
-  return totals.gaps == 0 ? kDone : kBadInput;
+  return totals.gaps == 0 ? Done : BadInput;
 }
 
 }  // namespace Korvane::Tool

@@ -45,24 +45,24 @@ bool LineSource::read_line() {
 
 std::optional<Timecode> LineSource::timecode_of_line() const {
   switch (form_) {
-    case LineForm::kLabel:
+    case LineForm::Label:
       return read_label(line_, rate_);
-    case LineForm::kWord32:
-      return read_word(line_, rate_, WordSize::k32Bits, false);
-    case LineForm::kWord64:
-      return read_word(line_, rate_, WordSize::k64Bits, !read_field_mark_);
+    case LineForm::Word32:
+      return read_word(line_, rate_, WordSize::Bits32, false);
+    case LineForm::Word64:
+      return read_word(line_, rate_, WordSize::Bits64, !read_field_mark_);
   }
   return std::nullopt;
 }
 
 std::string LineSource::refusal() const {
   switch (form_) {
-    case LineForm::kLabel:
+    case LineForm::Label:
       return no_label(line_, rate_);
-    case LineForm::kWord32:
-      return no_word(line_, rate_, WordSize::k32Bits);
-    case LineForm::kWord64:
-      return no_word(line_, rate_, WordSize::k64Bits);
+    case LineForm::Word32:
+      return no_word(line_, rate_, WordSize::Bits32);
+    case LineForm::Word64:
+      return no_word(line_, rate_, WordSize::Bits64);
   }
   return {};
 }

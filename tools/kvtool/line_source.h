@@ -12,7 +12,7 @@
 
 namespace Korvane::Tool {
 
-enum class LineForm { kLabel, kWord32, kWord64 };
+enum class LineForm { Label, Word32, Word64 };
 
 class LineSource : public TimecodeSource {
  public:

@@ -1,7 +1,6 @@
 #include "progress.h"
 
 #include <algorithm>
-#include <utility>
 
 #include "printable.h"
 
@@ -13,7 +12,8 @@ constexpr std::chrono::milliseconds kBetweenDraws(100);
 
 }  // namespace
 
-Progress::Progress(Streams& streams, std::string name, std::optional<unsigned long long> total)
+Progress::Progress(Streams& streams, const std::string& name,
+                   std::optional<unsigned long long> total)
     : streams_(streams),
       name_(printable_name(name)),
       total_(total),

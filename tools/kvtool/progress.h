@@ -16,7 +16,7 @@ class Progress {
  public:
   // `total` is the size in bytes, if it is known. Writes to the error stream of `streams`, and only
   // when that is a terminal.
-  Progress(Streams& streams, std::string name, std::optional<unsigned long long> total);
+  Progress(Streams& streams, const std::string& name, std::optional<unsigned long long> total);
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
   ~Progress();

@@ -88,13 +88,13 @@ std::optional<Timecode> read_word(const std::string& text, const Rate& rate, Wor
                                   bool ignore_field_mark) {
   std::string_view digits = text;
   if (digits.starts_with("0x") || digits.starts_with("0X")) digits.remove_prefix(2);
-  if (digits.empty() || digits.size() > (size == WordSize::k32Bits ? 8 : 16)) return std::nullopt;
+  if (digits.empty() || digits.size() > (size == WordSize::Bits32 ? 8 : 16)) return std::nullopt;
   unsigned long long word = 0;
   const char* const end = digits.data() + digits.size();
   const auto [stop, error] = std::from_chars(digits.data(), end, word, 16);
   if (error != std::errc() || stop != end) return std::nullopt;
   try {
-    if (size == WordSize::k32Bits) return Timecode(rate.nominal, static_cast<unsigned int>(word));
+    if (size == WordSize::Bits32) return Timecode(rate.nominal, static_cast<unsigned int>(word));
     return TimecodeUtils::load_timecode_from_full_st12m(rate.nominal, word, ignore_field_mark);
   } catch (const Exception&) {
     return std::nullopt;
@@ -103,7 +103,7 @@ std::optional<Timecode> read_word(const std::string& text, const Rate& rate, Wor
 
 std::string no_word(const std::string& text, const Rate& rate, WordSize size) {
   return no_timecode(text, rate,
-                     size == WordSize::k32Bits
+                     size == WordSize::Bits32
                          ? "a 32-bit word of up to 8 hexadecimal digits, its fields in range"
                          : "a 64-bit word of up to 16 hexadecimal digits, its fields in range");
 }

@@ -13,7 +13,7 @@
 
 namespace Korvane::Tool {
 
-enum class WordSize { k32Bits, k64Bits };
+enum class WordSize { Bits32, Bits64 };
 
 // "HH:MM:SS:FF" or "HH:MM:SS;FF", fields of one or two digits. At 50 and 60 a ".0" or ".1" behind
 // is the field mark, and without it the frames count at full rate. With a drop-frame rate ":" is

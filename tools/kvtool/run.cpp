@@ -141,10 +141,10 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
   } catch (const CLI::CallForHelp&) {
     streams.out << app.help();
-    return kDone;
+    return Done;
   } catch (const CLI::CallForVersion& version) {
     streams.out << version.what() << '\n';
-    return kDone;
+    return Done;
   } catch (const CLI::ParseError& error) {
     throw UsageError(std::string(error.what()) + " (see kvtool --help)");
   }
@@ -163,13 +163,13 @@ int run(const std::vector<std::string>& args, Streams& streams) {
     say(streams, "the results cannot be written to standard output");
   } catch (const UsageError& error) {
     say(streams, error.what());
-    return kWrongUsage;
+    return WrongUsage;
   } catch (const Exception& error) {
     say(streams, error.message());
   } catch (const std::exception& error) {
     say(streams, error.what());
   }
-  return kBadInput;
+  return BadInput;
 }
 
 }  // namespace Korvane::Tool

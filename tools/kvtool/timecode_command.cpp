@@ -20,14 +20,14 @@ int run_timecode(const TimecodeOptions& options, Streams& streams) {
   if (!given.repair_note.empty()) streams.err << "kvtool: " << given.repair_note << '\n';
   if (options.format) {
     streams.out << timecode.formatter(options.format->c_str()) << '\n';
-    return kDone;
+    return Done;
   }
   const TimecodeForms forms = forms_of(timecode, counting(rate, timecode.drop_frame()).edit);
   if (options.json)
     streams.out << to_json(forms).dump(2) << '\n';
   else
     write_text(streams.out, forms, "");
-  return kDone;
+  return Done;
 }
 
 }  // namespace Korvane::Tool

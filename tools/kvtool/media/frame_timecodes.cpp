@@ -13,7 +13,7 @@ namespace {
 TimecodeCarrier carrier_of(const AVStream& stream) {
   const AVCodecID codec = stream.codecpar->codec_id;
   const bool mpeg = codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG2VIDEO;
-  return mpeg ? TimecodeCarrier::kGroupOfPictures : TimecodeCarrier::kFrame;
+  return mpeg ? TimecodeCarrier::GroupOfPictures : TimecodeCarrier::Frame;
 }
 
 // The data are the number of words and the words; their bytes stand the other way round than in
@@ -65,7 +65,7 @@ std::optional<FrameTimecode> FrameTimecodes::next() {
 // are displayed before it, so its place there is the place of the header in coded order. (The
 // decoder puts it on whatever frame it gives out next.)
 void FrameTimecodes::visit_packet(const AVPacket& packet) {
-  if (carrier_ == TimecodeCarrier::kGroupOfPictures) {
+  if (carrier_ == TimecodeCarrier::GroupOfPictures) {
     const auto size = static_cast<std::size_t>(packet.size);
     try {
       if (const std::optional<GopTimecode> gop = find_gop_timecode({packet.data, size}))
@@ -79,7 +79,7 @@ void FrameTimecodes::visit_packet(const AVPacket& packet) {
 }
 
 void FrameTimecodes::visit_frame(const AVFrame& frame) {
-  if (carrier_ == TimecodeCarrier::kFrame) {
+  if (carrier_ == TimecodeCarrier::Frame) {
     try {
       if (const std::optional<unsigned int> word = find_word(frame))
         found_.push_back({frames_, Timecode(rate_.nominal, *word)});

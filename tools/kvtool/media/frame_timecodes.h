@@ -18,7 +18,7 @@ struct FrameTimecode {
   Timecode value;
 };
 
-enum class TimecodeCarrier { kFrame, kGroupOfPictures };
+enum class TimecodeCarrier { Frame, GroupOfPictures };
 
 class FrameTimecodes {
  public:

@@ -16,10 +16,10 @@ int run_probe(const ProbeOptions& options, Streams& streams) {
   if (!report.start) {
     streams.err << "kvtool: " << printable_name(report.file)
                 << ": no timecode (expected one in the container or in a frame)\n";
-    return kBadInput;
+    return BadInput;
   }
   const bool continuous = !report.frame_timecodes || report.frame_timecodes->differences.empty();
-  return continuous && !report.start_difference ? kDone : kBadInput;
+  return continuous && !report.start_difference ? Done : BadInput;
 }
 
 }  // namespace Korvane::Tool

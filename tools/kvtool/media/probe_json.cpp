@@ -28,9 +28,9 @@ Json timecode_json(const ProbeReport& report) {
 
 const char* name_of(TimecodeCarrier carrier) {
   switch (carrier) {
-    case TimecodeCarrier::kFrame:
+    case TimecodeCarrier::Frame:
       return "frame";
-    case TimecodeCarrier::kGroupOfPictures:
+    case TimecodeCarrier::GroupOfPictures:
       return "group_of_pictures";
   }
   return "";

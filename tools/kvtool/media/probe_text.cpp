@@ -36,9 +36,9 @@ void write_start_and_end(std::ostream& out, const ProbeReport& report) {
 
 const char* describe(TimecodeCarrier carrier) {
   switch (carrier) {
-    case TimecodeCarrier::kFrame:
+    case TimecodeCarrier::Frame:
       return "their own ST 12 words";
-    case TimecodeCarrier::kGroupOfPictures:
+    case TimecodeCarrier::GroupOfPictures:
       return "the headers of their groups of pictures";
   }
   return "";
