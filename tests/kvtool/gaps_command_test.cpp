@@ -223,19 +223,6 @@ TEST(GapsCommand, FilesThatCannotBeReadAreBad) {
                  run_tool({"gaps", folder, "--rate", "25"}));
 }
 
-// Every look at the clock finds it 300 milliseconds later.
-ToolResult run_slowly(const std::vector<std::string>& args, const std::string& input,
-                      bool err_is_terminal) {
-  std::istringstream in(input);
-  std::ostringstream out;
-  std::ostringstream err;
-  std::chrono::steady_clock::time_point time;
-  Streams streams{in, out, err, err_is_terminal,
-                  [&time] { return time += std::chrono::milliseconds(300); }};
-  const int code = run(args, streams);
-  return {code, out.str(), err.str()};
-}
-
 TEST(GapsCommand, ProgressAppearsAfterASecondAndIsErased) {
   const ScratchFile list("00:00:00:00\n00:00:00:01\n00:00:00:02\n00:00:00:03\n");
   const ToolResult result = run_slowly({"gaps", list.path(), "--rate", "25"}, "", true);

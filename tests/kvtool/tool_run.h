@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -27,6 +28,19 @@ inline ToolResult run_tool(const std::vector<std::string>& args, const std::stri
   std::ostringstream out;
   std::ostringstream err;
   Streams streams{in, out, err};
+  const int code = run(args, streams);
+  return {code, out.str(), err.str()};
+}
+
+// Every look at the clock finds it 300 milliseconds later.
+inline ToolResult run_slowly(const std::vector<std::string>& args, const std::string& input,
+                             bool err_is_terminal) {
+  std::istringstream in(input);
+  std::ostringstream out;
+  std::ostringstream err;
+  std::chrono::steady_clock::time_point time;
+  Streams streams{in, out, err, err_is_terminal,
+                  [&time] { return time += std::chrono::milliseconds(300); }};
   const int code = run(args, streams);
   return {code, out.str(), err.str()};
 }

@@ -88,6 +88,7 @@ int run_gaps(const GapsOptions& options, Streams& streams) {
 
   GapTotals totals{input.name(), options.input, source->frame_rate()};
   Progress progress(streams, input.name(), input.size());
+  input.on_read([&] { progress.update(source->bytes_read(), totals.count); });
   GapFinder(*source, *report, progress, totals).read_all();
   progress.erase();
   if (totals.count == 0)

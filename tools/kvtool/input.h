@@ -4,9 +4,11 @@
 #define KV_TOOLS_KVTOOL_INPUT_H
 
 #include <fstream>
+#include <functional>
 #include <istream>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace Korvane::Tool {
 
@@ -20,6 +22,13 @@ class Input {
   const std::string& path() const { return path_; }
   std::istream& stream() { return is_standard_input() ? standard_input_ : file_; }
 
+  // `reached` is called for every block that a media library reads, until it is replaced by null.
+  // It must not raise.
+  void on_read(std::function<void()> reached) { reached_ = std::move(reached); }
+  void tell_read() const {
+    if (reached_) reached_();
+  }
+
   // In bytes; unknown for standard input and for what is no regular file.
   std::optional<unsigned long long> size() const;
 
@@ -28,6 +37,7 @@ class Input {
   std::string name_;  // for messages
   std::ifstream file_;
   std::istream& standard_input_;
+  std::function<void()> reached_;
 };
 
 }  // namespace Korvane::Tool

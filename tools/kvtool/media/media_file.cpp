@@ -13,13 +13,15 @@ namespace {
 constexpr int kBlockSize = 65536;
 
 int read_block(void* context, std::uint8_t* block, int size) {
-  std::istream& in = *static_cast<std::istream*>(context);
+  Input& input = *static_cast<Input*>(context);
+  input.tell_read();
+  std::istream& in = input.stream();
   in.read(reinterpret_cast<char*>(block), size);
   return in.gcount() > 0 ? static_cast<int>(in.gcount()) : AVERROR_EOF;
 }
 
 std::int64_t seek(void* context, std::int64_t offset, int whence) {
-  std::istream& in = *static_cast<std::istream*>(context);
+  std::istream& in = static_cast<Input*>(context)->stream();
   in.clear();
   const std::istream::pos_type here = in.tellg();
   switch (whence & ~AVSEEK_FORCE) {
@@ -47,8 +49,8 @@ std::int64_t seek(void* context, std::int64_t offset, int whence) {
 LibavPtr<AVIOContext> open_io(Input& input) {
   auto* const block = static_cast<unsigned char*>(av_malloc(kBlockSize));
   if (block == nullptr) throw std::bad_alloc();
-  LibavPtr<AVIOContext> io(avio_alloc_context(block, kBlockSize, 0, &input.stream(), read_block,
-                                              nullptr, input.size() ? seek : nullptr));
+  LibavPtr<AVIOContext> io(avio_alloc_context(block, kBlockSize, 0, &input, read_block, nullptr,
+                                              input.size() ? seek : nullptr));
   if (io == nullptr) {
     av_free(block);
     throw std::bad_alloc();

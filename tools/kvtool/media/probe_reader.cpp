@@ -70,14 +70,11 @@ class ContinuityCheck {
   std::optional<FrameTimecode> previous_;
 };
 
-void read_frames(const MediaFile& file, AVStream& stream, Progress& progress, ProbeReport& report) {
+void read_frames(const MediaFile& file, AVStream& stream, ProbeReport& report) {
   FrameTimecodes timecodes(file, stream, report.rate);
   FrameTimecodeList list{timecodes.carrier(), {}, {}};
   ContinuityCheck check(list);
-  while (const std::optional<FrameTimecode> found = timecodes.next()) {
-    check.add(*found);
-    progress.update(file.bytes_read(), timecodes.frames_read());
-  }
+  while (const std::optional<FrameTimecode> found = timecodes.next()) check.add(*found);
   report.frames = timecodes.frames_read();
   if (!list.list.empty()) report.frame_timecodes = std::move(list);
 
@@ -126,7 +123,8 @@ ProbeReport read_probe_report(const std::string& path, Streams& streams) {
   report.rate = timecode_rate_of(file, video);
   report.start = read_stored(file, video, report.rate);
   Progress progress(streams, input.name(), input.size());
-  read_frames(file, video, progress, report);
+  input.on_read([&] { progress.update(file.bytes_read(), report.frames); });
+  read_frames(file, video, report);
   conclude(report);
   return report;
 }
