@@ -71,8 +71,10 @@ TEST_P(LibavutilDay, Packs) {
         av_timecode_get_smpte(rate_, counting_.drop ? 1 : 0, timecode.hours(), timecode.minutes(),
                               timecode.seconds(), timecode.frames_ignore_field_mark());
     const unsigned int word = bytes_reversed(timecode.to_12m());
-    if (word != of_count) return differs("packing", timecode, hex(of_count), hex(word));
-    if (word != of_label) return differs("packing", timecode, hex(of_label), hex(word));
+    if (word != of_count)
+      return differs("packing", timecode, Naive::show_word(of_count), Naive::show_word(word));
+    if (word != of_label)
+      return differs("packing", timecode, Naive::show_word(of_label), Naive::show_word(word));
     return AssertionSuccess();
   }));
 }

@@ -68,7 +68,8 @@ AssertionResult packs_as(const LinearCounting& linear, const LTCFrame& frame,
   const unsigned long long compared = ~(1ULL << linear.parity_bit);
   const unsigned long long expected = word_of(frame) & compared;
   const unsigned long long word = timecode.to_12m_full() & compared;
-  if (word != expected) return differs("packing", timecode, hex(expected), hex(word));
+  if (word != expected)
+    return differs("packing", timecode, Naive::show_word(expected), Naive::show_word(word));
   return AssertionSuccess();
 }
 

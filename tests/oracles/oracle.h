@@ -5,9 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <sstream>
-#include <string>
-
 #include "support/naive_timecode.h"
 
 namespace Korvane {
@@ -27,12 +24,6 @@ template <typename Check>
   for (long long count = 0; count < counting.frames_per_day; ++count, ++timecode)
     if (::testing::AssertionResult result = check(timecode); !result) return result;
   return ::testing::AssertionSuccess();
-}
-
-inline std::string hex(unsigned long long word) {
-  std::ostringstream text;
-  text << "0x" << std::hex << word;
-  return text.str();
 }
 
 template <typename Expected, typename Actual>

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <ostream>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -268,6 +269,12 @@ inline std::string show(const Timecode& timecode) {
          std::to_string(timecode.days()) + " label " + std::to_string(timecode.hours()) + "h " +
          std::to_string(timecode.minutes()) + "m " + std::to_string(timecode.seconds()) + "s " +
          std::to_string(timecode.frames()) + "f mark " + std::to_string(timecode.field_mark());
+}
+
+inline std::string show_word(unsigned long long word) {
+  std::ostringstream text;
+  text << "0x" << std::hex << word;
+  return text.str();
 }
 
 // For GoogleTest's parameter output.

@@ -430,7 +430,7 @@ AssertionResult reads_as(unsigned short rate, const WordFields& fields, bool wra
 AssertionResult reads_32_bits(unsigned short rate, unsigned int word) {
   const WordFields fields = fields_of_32_bits(rate, word);
   AssertionResult result = reads_as(rate, fields, false, [&] { return Timecode(rate, word); });
-  if (!result) result << " of word 0x" << std::hex << word << std::dec << " at " << rate;
+  if (!result) result << " of word " << Naive::show_word(word) << " at " << rate;
   return result;
 }
 
@@ -441,7 +441,7 @@ AssertionResult reads_64_bits(unsigned short rate, unsigned long long word,
     return TimecodeUtils::load_timecode_from_full_st12m(rate, word, ignore_field_mark);
   });
   if (!result)
-    result << " of word 0x" << std::hex << word << std::dec << " at " << rate
+    result << " of word " << Naive::show_word(word) << " at " << rate
            << (ignore_field_mark ? " without field mark" : " with field mark");
   return result;
 }

@@ -35,8 +35,8 @@ AssertionResult text_differs(const Counting& counting, const Frame& frame,
 
 AssertionResult word_differs(const Counting& counting, const Frame& frame,
                              unsigned long long expected, unsigned long long actual) {
-  return AssertionFailure() << "packed 0x" << std::hex << actual << ", expected 0x" << expected
-                            << std::dec << ", " << show(counting, frame);
+  return AssertionFailure() << "packed " << Naive::show_word(actual) << ", expected "
+                            << Naive::show_word(expected) << ", " << show(counting, frame);
 }
 
 // Calls `check` with the naive frame and the timecode of each frame of the day, up to the first
