@@ -93,8 +93,8 @@ TEST(ProbeCommand, TextListsEveryTimecodeOnFewLines) {
           "start timecode, stored as \"00:59:58;00\" (container)\n"
           "  label                 00:59:58;00\n",
       "\nend timecode, of the last frame\n  label                 01:00:00;14\n",
-      "\ntimecodes of 75 frames, in the headers of their groups of pictures\n"
-      "       0  00:59:58;00  00:59:58;01  00:59:58;02  00:59:58;03  00:59:58;04  00:59:58;05\n",
+      "\ntimecodes of 75 frames, in the headers of their groups of pictures\n",
+      "\n       0  00:59:58;00  00:59:58;01  00:59:58;02  00:59:58;03  00:59:58;04  00:59:58;05\n",
       "      36  00:59:59;06  00:59:59;07  00:59:59;08  00:59:59;09  01:00:02;20  01:00:02;21\n",
       "      72  01:00:03;22  01:00:03;23  01:00:03;24\n"
       "\n"
