@@ -8,14 +8,31 @@ namespace {
 
 // The number that the label of frame `count` of the day has when every number is counted, dropped
 // ones too.
-long long with_dropped_numbers(unsigned short rate, long long count) {
-  const int per_ten_minutes = rate * 600000 / 1001;
-  const int per_minute = rate * 60000 / 1001;
-  const long long tens = count / per_ten_minutes;
-  const long long rest = count % per_ten_minutes;
-  const long long full_minute = static_cast<long long>(rate) * 60;
-  const long long dropping_minutes = (per_minute + rest - full_minute) / per_minute;
+template <int rate>
+int with_dropped_numbers(int count) {
+  constexpr int kPerTenMinutes = rate * 600000 / 1001;
+  constexpr int kPerMinute = rate * 60000 / 1001;
+  const int tens = count / kPerTenMinutes;
+  const int rest = count % kPerTenMinutes;
+  const int dropping_minutes = (kPerMinute + rest - rate * 60) / kPerMinute;
   return count + (9 * tens + dropping_minutes) * dropped_per_minute(rate);
+}
+
+// Derives the label from the absolute frame count, which is below 25 hours, so that 32 bits hold
+// it. One function a rate: the compiler divides by constants.
+template <int rate>
+void derive_label(TimecodeState& state) {
+  int number = static_cast<int>(state.absolute_frame_count);
+  if constexpr (can_drop_frames(rate)) {
+    if (state.drop_frame) number = with_dropped_numbers<rate>(number);
+  }
+  const int second_of_day = number / rate;
+  const int frame_of_second = number % rate;
+  state.hours = static_cast<unsigned char>(second_of_day / 3600);
+  state.minutes = static_cast<unsigned char>(second_of_day / 60 % 60);
+  state.seconds = static_cast<unsigned char>(second_of_day % 60);
+  state.frames = static_cast<unsigned char>(frame_of_second / frames_per_label_frame(rate));
+  state.field_mark = is_double_rate(rate) && frame_of_second % 2 != 0;
 }
 
 }  // namespace
@@ -63,8 +80,8 @@ void TimecodeState::recompute_from_fields(bool wrap, bool check_drop_frame_label
 void TimecodeState::normalize(bool wrap) {
   absolute_frame_count = frame_count;
   days = 0;
-  if (wrap) {
-    const long long per_day = frames_per_day(frame_rate, drop_frame);
+  const long long per_day = frames_per_day(frame_rate, drop_frame);
+  if (wrap && (frame_count < 0 || frame_count >= per_day)) {
     long long whole_days = frame_count / per_day;
     absolute_frame_count = frame_count % per_day;
     if (absolute_frame_count < 0) {
@@ -74,16 +91,20 @@ void TimecodeState::normalize(bool wrap) {
     days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
   }
 
-  // At most 25 hours from here on, so 32 bits hold it.
-  const auto number = static_cast<int>(
-      drop_frame ? with_dropped_numbers(frame_rate, absolute_frame_count) : absolute_frame_count);
-  const int second_of_day = number / frame_rate;
-  const int frame_of_second = number % frame_rate;
-  hours = static_cast<unsigned char>(second_of_day / 3600);
-  minutes = static_cast<unsigned char>(second_of_day / 60 % 60);
-  seconds = static_cast<unsigned char>(second_of_day % 60);
-  frames = static_cast<unsigned char>(frame_of_second / frames_per_label_frame(frame_rate));
-  field_mark = is_double_rate(frame_rate) && frame_of_second % 2 != 0;
+  switch (frame_rate) {
+    case 24:
+      return derive_label<24>(*this);
+    case 25:
+      return derive_label<25>(*this);
+    case 30:
+      return derive_label<30>(*this);
+    case 50:
+      return derive_label<50>(*this);
+    case 60:
+      return derive_label<60>(*this);
+    default:
+      return;  // refused by validate()
+  }
 }
 
 }  // namespace Korvane
