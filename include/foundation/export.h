@@ -12,7 +12,7 @@
 #elif defined(_MSC_VER)
 #define KV_ENGINE_API __declspec(dllexport)
 #else
-#define KV_ENGINE_API  // MinGW exports by list: dllexport would show type information of foreign classes
+#define KV_ENGINE_API  // MinGW exports by list: dllexport would show foreign type information
 #endif
 
 #if defined(_MSC_VER)

@@ -96,10 +96,8 @@ TEST(ProbeCommand, TextListsEveryTimecodeOnFewLines) {
       "\ntimecodes of 75 frames, in the headers of their groups of pictures\n",
       "\n       0  00:59:58;00  00:59:58;01  00:59:58;02  00:59:58;03  00:59:58;04  00:59:58;05\n",
       "      36  00:59:59;06  00:59:59;07  00:59:59;08  00:59:59;09  01:00:02;20  01:00:02;21\n",
-      "      72  01:00:03;22  01:00:03;23  01:00:03;24\n"
-      "\n"
-      "frame 40: Found timecode difference, expected: 00:59:59;10 actual: 01:00:02;20 (+100 "
-      "frames)\n"};
+      "      72  01:00:03;22  01:00:03;23  01:00:03;24\n\nframe 40: Found timecode difference",
+      "difference, expected: 00:59:59;10 actual: 01:00:02;20 (+100 frames)\n"};
   for (const std::string& part : parts)
     EXPECT_NE(std::string::npos, result.out.find(part)) << part << "is missing from\n"
                                                         << result.out;

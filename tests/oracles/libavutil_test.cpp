@@ -14,7 +14,6 @@ namespace Korvane {
 namespace {
 
 using ::testing::AssertionFailure;
-using ::testing::AssertionResult;
 using ::testing::AssertionSuccess;
 
 constexpr unsigned int bytes_reversed(unsigned int word) {

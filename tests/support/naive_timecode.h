@@ -139,8 +139,9 @@ class Minutes {
   // A label that is left out counts as many frames before the start of its minute.
   long long count_at(const Label& label) const {
     const int minute = label.hours * 60 + label.minutes;
-    return starts_[static_cast<std::size_t>(minute)] + label.seconds * counting_.rate +
-           label.frame - dropped_in(minute);
+    return starts_[static_cast<std::size_t>(minute)] +
+           static_cast<long long>(label.seconds) * counting_.rate + label.frame -
+           dropped_in(minute);
   }
 
   Label label_at(long long absolute) const {

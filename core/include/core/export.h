@@ -10,7 +10,7 @@
 #elif defined(_MSC_VER)
 #define KV_CORE_API __declspec(dllexport)
 #else
-#define KV_CORE_API  // MinGW exports by list: dllexport would show type information of foreign classes
+#define KV_CORE_API  // MinGW exports by list: dllexport would show foreign type information
 #endif
 
 #endif  // KV_CORE_EXPORT_H
