@@ -271,9 +271,9 @@ TEST(TimecodeFixer, KeepsTheDaysOfItsFrames) {
 }
 
 TEST(TimecodeFixer, RefusesOtherRates) {
-  for (const unsigned short rate : std::initializer_list<unsigned short>{0, 48, 120})
+  for (const unsigned short rate : std::initializer_list<unsigned short>{0, 48, 120, 65535})
     EXPECT_TRUE(raises(NotSupported, kRateMessage,
-                       [&] { timecode_fixer(rate, 0, 0, 0, 0, false, false); }));
+                       [&] { timecode_fixer(rate, 23, 59, 59, 99, false, false); }));
 }
 
 struct MinutesCase {
