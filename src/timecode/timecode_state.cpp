@@ -66,7 +66,8 @@ void TimecodeState::validate(bool check_drop_frame_label) const {
 long long TimecodeState::count_of_label() const {
   // In 64 bits for the sake of rates that nothing has refused yet.
   const long long seconds_of_day = (hours * 60 + minutes) * 60 + seconds;
-  long long count = seconds_of_day * frame_rate + frames * frames_per_label_frame(frame_rate);
+  const int frame_of_second = frames * frames_per_label_frame(frame_rate);
+  long long count = seconds_of_day * frame_rate + frame_of_second;
   if (is_double_rate(frame_rate) && field_mark) ++count;
   if (drop_frame) count -= dropped_before(frame_rate, hours, minutes);
   return count;
