@@ -7,6 +7,8 @@
 #include "core/exception_code.h"
 #include "core/logger.h"
 #include "foundation/rational32.h"
+#include "media/track_descriptor.h"
+#include "media/track_descriptor_essence_kind.h"
 #include "timecode/time_data.h"
 #include "timecode/timecode.h"
 #include "timecode/timecode_info.h"
