@@ -1,0 +1,14 @@
+#include "foundation/i_storage_authentication.h"
+
+namespace Korvane {
+
+IStorageAuthentication::IStorageAuthentication() = default;
+
+IStorageAuthentication::IStorageAuthentication(const IStorageAuthentication& other) = default;
+
+IStorageAuthentication& IStorageAuthentication::operator=(const IStorageAuthentication& other) =
+    default;
+
+IStorageAuthentication::~IStorageAuthentication() = default;
+
+}  // namespace Korvane

@@ -1,0 +1,13 @@
+#include "foundation/tick_count_provider.h"
+
+namespace Korvane {
+
+TickCountProvider::TickCountProvider() = default;
+
+TickCountProvider::TickCountProvider(const TickCountProvider& other) = default;
+
+TickCountProvider& TickCountProvider::operator=(const TickCountProvider& other) = default;
+
+TickCountProvider::~TickCountProvider() = default;
+
+}  // namespace Korvane

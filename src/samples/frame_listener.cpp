@@ -1,0 +1,13 @@
+#include "media/frame_listener.h"
+
+namespace Korvane::Media {
+
+FrameListener::FrameListener() = default;
+
+FrameListener::FrameListener(const FrameListener& other) = default;
+
+FrameListener& FrameListener::operator=(const FrameListener& other) = default;
+
+FrameListener::~FrameListener() = default;
+
+}  // namespace Korvane::Media

@@ -1,0 +1,14 @@
+#include "media/i_encoding_perf_listener.h"
+
+namespace Korvane::Media {
+
+IEncodingPerfListener::IEncodingPerfListener() = default;
+
+IEncodingPerfListener::IEncodingPerfListener(const IEncodingPerfListener& other) = default;
+
+IEncodingPerfListener& IEncodingPerfListener::operator=(const IEncodingPerfListener& other) =
+    default;
+
+IEncodingPerfListener::~IEncodingPerfListener() = default;
+
+}  // namespace Korvane::Media

@@ -1,0 +1,15 @@
+#include "media/i_encoding_perf_listener_provider.h"
+
+namespace Korvane::Media {
+
+IEncodingPerfListenerProvider::IEncodingPerfListenerProvider() = default;
+
+IEncodingPerfListenerProvider::IEncodingPerfListenerProvider(
+    const IEncodingPerfListenerProvider& other) = default;
+
+IEncodingPerfListenerProvider& IEncodingPerfListenerProvider::operator=(
+    const IEncodingPerfListenerProvider& other) = default;
+
+IEncodingPerfListenerProvider::~IEncodingPerfListenerProvider() = default;
+
+}  // namespace Korvane::Media

@@ -1,0 +1,13 @@
+#include "media/i_frame.h"
+
+namespace Korvane::Media {
+
+IFrame::IFrame() = default;
+
+IFrame::IFrame(const IFrame& other) = default;
+
+IFrame& IFrame::operator=(const IFrame& other) = default;
+
+IFrame::~IFrame() = default;
+
+}  // namespace Korvane::Media

@@ -1,0 +1,13 @@
+#include "media/i_provider_ctrl.h"
+
+namespace Korvane::Media {
+
+IProviderCtrl::IProviderCtrl() = default;
+
+IProviderCtrl::IProviderCtrl(const IProviderCtrl& other) = default;
+
+IProviderCtrl& IProviderCtrl::operator=(const IProviderCtrl& other) = default;
+
+IProviderCtrl::~IProviderCtrl() = default;
+
+}  // namespace Korvane::Media

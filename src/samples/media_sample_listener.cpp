@@ -1,0 +1,13 @@
+#include "media/media_sample_listener.h"
+
+namespace Korvane::Media {
+
+MediaSampleListener::MediaSampleListener() = default;
+
+MediaSampleListener::MediaSampleListener(const MediaSampleListener& other) = default;
+
+MediaSampleListener& MediaSampleListener::operator=(const MediaSampleListener& other) = default;
+
+MediaSampleListener::~MediaSampleListener() = default;
+
+}  // namespace Korvane::Media
