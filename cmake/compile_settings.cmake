@@ -1,6 +1,7 @@
 # kv_compile_settings(<target>): how our own code is compiled and linked. All private: nothing of it
 # reaches the users of an installed library.
 include(CheckCXXSourceCompiles)
+include(${CMAKE_CURRENT_LIST_DIR}/exported_names.cmake)
 
 set(kv_warnings
   -Wall -Wextra -Wpedantic   # the usual ground
@@ -90,8 +91,7 @@ endfunction()
 function(kv_module_definition target)
   set(exports ${PROJECT_SOURCE_DIR}/cmake/${target}.exports)
   set_property(DIRECTORY ${PROJECT_SOURCE_DIR} APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${exports})
-  file(STRINGS ${exports} names)
-  list(FILTER names EXCLUDE REGEX "^_ZTS")  # names of types are no symbols of their own here
+  kv_exported_names(names ${exports} pe)
   list(TRANSFORM names APPEND " DATA" REGEX "^_ZT")
   list(JOIN names "\n  " lines)
   file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/${target}.def "EXPORTS\n  ${lines}\n")

@@ -1,7 +1,8 @@
 # cmake -D LIBRARY= -D FORMAT=elf|pe -D OBJDUMP= -D EXPECTED= -P exports_test.cmake: the library exports
-# exactly the names in EXPECTED (mangled, one a line, sorted). Both compilers that we build with mangle
-# alike, so one list serves both formats. -D UPDATE=ON writes the list instead.
+# exactly the names in EXPECTED (mangled, one a line, sorted). The compilers that we build with mangle
+# nearly alike, so one list serves both formats. -D UPDATE=ON writes the list instead, from ELF.
 cmake_minimum_required(VERSION 3.25)
+include(${CMAKE_CURRENT_LIST_DIR}/../../cmake/exported_names.cmake)
 
 set(names "")
 if(FORMAT STREQUAL "elf")
@@ -32,10 +33,7 @@ if(UPDATE)
   return()
 endif()
 
-file(STRINGS ${EXPECTED} expected)
-if(FORMAT STREQUAL "pe")
-  list(FILTER expected EXCLUDE REGEX "^_ZTS")  # names of types are no symbols of their own here
-endif()
+kv_exported_names(expected ${EXPECTED} ${FORMAT})
 if(NOT expected)
   message(FATAL_ERROR "${EXPECTED} is empty")
 endif()
