@@ -7,8 +7,8 @@ IAdditionalProcessHandler::IAdditionalProcessHandler() = default;
 IAdditionalProcessHandler::IAdditionalProcessHandler(const IAdditionalProcessHandler& other) =
     default;
 
-IAdditionalProcessHandler& IAdditionalProcessHandler::operator=(
-    const IAdditionalProcessHandler& other) = default;
+IAdditionalProcessHandler& IAdditionalProcessHandler::operator=(const IAdditionalProcessHandler&) =
+    default;
 
 IAdditionalProcessHandler::~IAdditionalProcessHandler() = default;
 

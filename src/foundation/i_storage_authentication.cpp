@@ -4,7 +4,7 @@ namespace Korvane {
 
 IStorageAuthentication::IStorageAuthentication() = default;
 
-IStorageAuthentication::IStorageAuthentication(const IStorageAuthentication& other) = default;
+IStorageAuthentication::IStorageAuthentication(const IStorageAuthentication&) = default;
 
 IStorageAuthentication& IStorageAuthentication::operator=(const IStorageAuthentication& other) =
     default;

@@ -14,7 +14,7 @@ namespace Korvane {
 template <typename T>
 class LazyInstance {
  public:
-  LazyInstance() { new (&mutex_) boost::mutex; }
+  LazyInstance() { new (&mutex) boost::mutex; }
   LazyInstance(const LazyInstance&) = delete;
   LazyInstance& operator=(const LazyInstance&) = delete;
   ~LazyInstance() {}  // NOLINT(modernize-use-equals-default): not the mutex, see below
@@ -25,7 +25,7 @@ class LazyInstance {
   T& get(Create create) {
     T* instance = instance_.load(std::memory_order_acquire);
     if (instance == nullptr) {
-      const boost::lock_guard<boost::mutex> lock(mutex_);
+      const boost::lock_guard<boost::mutex> lock(mutex);
       instance = instance_.load(std::memory_order_relaxed);
       if (instance == nullptr) {
         instance = create();
@@ -38,7 +38,7 @@ class LazyInstance {
  private:
   std::atomic<T*> instance_{nullptr};
   union {
-    boost::mutex mutex_;  // never destroyed: the first use may come while the process ends
+    boost::mutex mutex;  // never destroyed: the first use may come while the process ends
   };
 };
 

@@ -4,9 +4,9 @@ namespace Korvane {
 
 TickCountProvider::TickCountProvider() = default;
 
-TickCountProvider::TickCountProvider(const TickCountProvider& other) = default;
+TickCountProvider::TickCountProvider(const TickCountProvider&) = default;
 
-TickCountProvider& TickCountProvider::operator=(const TickCountProvider& other) = default;
+TickCountProvider& TickCountProvider::operator=(const TickCountProvider&) = default;
 
 TickCountProvider::~TickCountProvider() = default;
 

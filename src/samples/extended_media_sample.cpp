@@ -4,13 +4,13 @@ namespace Korvane::Media {
 
 ExtendedMediaSample::ExtendedMediaSample() = default;
 
-ExtendedMediaSample::ExtendedMediaSample(const ExtendedMediaSample& other) = default;
+ExtendedMediaSample::ExtendedMediaSample(const ExtendedMediaSample&) = default;
 
-ExtendedMediaSample::ExtendedMediaSample(ExtendedMediaSample&& other) noexcept = default;
+ExtendedMediaSample::ExtendedMediaSample(ExtendedMediaSample&&) noexcept = default;
 
-ExtendedMediaSample& ExtendedMediaSample::operator=(const ExtendedMediaSample& other) = default;
+ExtendedMediaSample& ExtendedMediaSample::operator=(const ExtendedMediaSample&) = default;
 
-ExtendedMediaSample& ExtendedMediaSample::operator=(ExtendedMediaSample&& other) noexcept = default;
+ExtendedMediaSample& ExtendedMediaSample::operator=(ExtendedMediaSample&&) noexcept = default;
 
 ExtendedMediaSample::~ExtendedMediaSample() = default;
 

@@ -4,9 +4,9 @@ namespace Korvane::Media {
 
 FrameListener::FrameListener() = default;
 
-FrameListener::FrameListener(const FrameListener& other) = default;
+FrameListener::FrameListener(const FrameListener&) = default;
 
-FrameListener& FrameListener::operator=(const FrameListener& other) = default;
+FrameListener& FrameListener::operator=(const FrameListener&) = default;
 
 FrameListener::~FrameListener() = default;
 

@@ -4,7 +4,7 @@ namespace Korvane::Media {
 
 IEncodingPerfListener::IEncodingPerfListener() = default;
 
-IEncodingPerfListener::IEncodingPerfListener(const IEncodingPerfListener& other) = default;
+IEncodingPerfListener::IEncodingPerfListener(const IEncodingPerfListener&) = default;
 
 IEncodingPerfListener& IEncodingPerfListener::operator=(const IEncodingPerfListener& other) =
     default;

@@ -4,11 +4,11 @@ namespace Korvane::Media {
 
 IEncodingPerfListenerProvider::IEncodingPerfListenerProvider() = default;
 
-IEncodingPerfListenerProvider::IEncodingPerfListenerProvider(
-    const IEncodingPerfListenerProvider& other) = default;
+IEncodingPerfListenerProvider::IEncodingPerfListenerProvider(const IEncodingPerfListenerProvider&) =
+    default;
 
 IEncodingPerfListenerProvider& IEncodingPerfListenerProvider::operator=(
-    const IEncodingPerfListenerProvider& other) = default;
+    const IEncodingPerfListenerProvider&) = default;
 
 IEncodingPerfListenerProvider::~IEncodingPerfListenerProvider() = default;
 

@@ -4,9 +4,9 @@ namespace Korvane::Media {
 
 IFrame::IFrame() = default;
 
-IFrame::IFrame(const IFrame& other) = default;
+IFrame::IFrame(const IFrame&) = default;
 
-IFrame& IFrame::operator=(const IFrame& other) = default;
+IFrame& IFrame::operator=(const IFrame&) = default;
 
 IFrame::~IFrame() = default;
 

@@ -4,9 +4,9 @@ namespace Korvane::Media {
 
 IFrameProvider::IFrameProvider() = default;
 
-IFrameProvider::IFrameProvider(const IFrameProvider& other) = default;
+IFrameProvider::IFrameProvider(const IFrameProvider&) = default;
 
-IFrameProvider& IFrameProvider::operator=(const IFrameProvider& other) = default;
+IFrameProvider& IFrameProvider::operator=(const IFrameProvider&) = default;
 
 IFrameProvider::~IFrameProvider() = default;
 

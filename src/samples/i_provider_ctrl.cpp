@@ -4,9 +4,9 @@ namespace Korvane::Media {
 
 IProviderCtrl::IProviderCtrl() = default;
 
-IProviderCtrl::IProviderCtrl(const IProviderCtrl& other) = default;
+IProviderCtrl::IProviderCtrl(const IProviderCtrl&) = default;
 
-IProviderCtrl& IProviderCtrl::operator=(const IProviderCtrl& other) = default;
+IProviderCtrl& IProviderCtrl::operator=(const IProviderCtrl&) = default;
 
 IProviderCtrl::~IProviderCtrl() = default;
 

@@ -4,9 +4,9 @@ namespace Korvane::Media {
 
 ISampleProvider::ISampleProvider() = default;
 
-ISampleProvider::ISampleProvider(const ISampleProvider& other) = default;
+ISampleProvider::ISampleProvider(const ISampleProvider&) = default;
 
-ISampleProvider& ISampleProvider::operator=(const ISampleProvider& other) = default;
+ISampleProvider& ISampleProvider::operator=(const ISampleProvider&) = default;
 
 ISampleProvider::~ISampleProvider() = default;
 

@@ -4,13 +4,13 @@ namespace Korvane::Media {
 
 MediaSample::MediaSample() = default;
 
-MediaSample::MediaSample(const MediaSample& other) = default;
+MediaSample::MediaSample(const MediaSample&) = default;
 
-MediaSample::MediaSample(MediaSample&& other) noexcept = default;
+MediaSample::MediaSample(MediaSample&&) noexcept = default;
 
-MediaSample& MediaSample::operator=(const MediaSample& other) = default;
+MediaSample& MediaSample::operator=(const MediaSample&) = default;
 
-MediaSample& MediaSample::operator=(MediaSample&& other) noexcept = default;
+MediaSample& MediaSample::operator=(MediaSample&&) noexcept = default;
 
 MediaSample::~MediaSample() = default;
 

@@ -4,9 +4,9 @@ namespace Korvane::Media {
 
 MediaSampleListener::MediaSampleListener() = default;
 
-MediaSampleListener::MediaSampleListener(const MediaSampleListener& other) = default;
+MediaSampleListener::MediaSampleListener(const MediaSampleListener&) = default;
 
-MediaSampleListener& MediaSampleListener::operator=(const MediaSampleListener& other) = default;
+MediaSampleListener& MediaSampleListener::operator=(const MediaSampleListener&) = default;
 
 MediaSampleListener::~MediaSampleListener() = default;
 

@@ -4,9 +4,9 @@ namespace Korvane::Memory {
 
 Sample::Sample() = default;
 
-Sample::Sample(const Sample& other) = default;
+Sample::Sample(const Sample&) = default;
 
-Sample& Sample::operator=(const Sample& other) = default;
+Sample& Sample::operator=(const Sample&) = default;
 
 Sample::~Sample() = default;
 

@@ -4,9 +4,9 @@ namespace Korvane::Media {
 
 StreamStatsListener::StreamStatsListener() = default;
 
-StreamStatsListener::StreamStatsListener(const StreamStatsListener& other) = default;
+StreamStatsListener::StreamStatsListener(const StreamStatsListener&) = default;
 
-StreamStatsListener& StreamStatsListener::operator=(const StreamStatsListener& other) = default;
+StreamStatsListener& StreamStatsListener::operator=(const StreamStatsListener&) = default;
 
 StreamStatsListener::~StreamStatsListener() = default;
 

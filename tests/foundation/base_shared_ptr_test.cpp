@@ -21,11 +21,11 @@ TEST(RefCount, CountsFromOneAndGoesAtZero) {
 }
 
 struct Flag {
-  explicit Flag(bool& gone) : gone_(gone) {}
+  explicit Flag(bool& flag) : gone(flag) {}
   Flag(const Flag&) = delete;
   Flag& operator=(const Flag&) = delete;
-  ~Flag() { gone_ = true; }
-  bool& gone_;
+  ~Flag() { gone = true; }
+  bool& gone;
 };
 
 TEST(BaseSharedPtr, HoldsThreePointersBehindItsTable) {

@@ -55,6 +55,7 @@ TEST(HandleThreads, EveryObjectIsDestroyedOnceAndNotBeforeItsLastHandle) {
   // once.
   const auto new_objects = [&]() noexcept {
     for (unsigned int object = 0; object < kObjects; ++object) {
+      // NOLINTNEXTLINE(bugprone-unhandled-exception-at-new): without memory the test may end
       const Media::FramePtr handle(new WatchedFrame(shared_watch));
       for (Handles& handles : shared) handles[object] = handle;
     }
