@@ -24,7 +24,7 @@ class HandleAllocations : public testing::Test {
 
 using Kinds = testing::Types<SharedFrame, SharedFrameProvider, SharedSampleProvider,
                              SharedPerfListener, SharedSample, SharedDescriptor>;
-TYPED_TEST_SUITE(HandleAllocations, Kinds);
+TYPED_TEST_SUITE(HandleAllocations, Kinds, HandleNames);
 
 TYPED_TEST(HandleAllocations, FourForAHandleAndOneForACopy) {
   using Handle = typename TypeParam::Handle;
@@ -159,19 +159,21 @@ TYPED_TEST(HandleAllocations, AFailedAssignmentLeavesADestructibleHandle) {
 
 TYPED_TEST(HandleAllocations, AFailedResetDeletesTheObjectAndLeavesAUsableHandle) {
   using Handle = typename TypeParam::Handle;
-  const long before = counters().live();
   for (long first_failing = 1; first_failing <= 3; ++first_failing) {
     SCOPED_TRACE(first_failing);
-    Handle handle(this->make());
-    const Handle other(handle);
-    auto* const object = this->make();
-    EXPECT_TRUE(fails_without_memory(first_failing, [&] { handle.reset(object); }));
-    EXPECT_EQ(1, this->watch_.alive());  // the one of `other`
-    EXPECT_NE(nullptr, other.get());
-    expect_usable(handle, [&] { return this->make(); });
+    const long before = counters().live();
+    {
+      Handle handle(this->make());
+      const Handle other(handle);
+      auto* const object = this->make();
+      EXPECT_TRUE(fails_without_memory(first_failing, [&] { handle.reset(object); }));
+      EXPECT_EQ(1, this->watch_.alive());  // the one of `other`
+      EXPECT_NE(nullptr, other.get());
+      expect_usable(handle, [&] { return this->make(); });
+    }
+    EXPECT_EQ(0, this->watch_.alive());
+    EXPECT_EQ(before, counters().live());
   }
-  EXPECT_EQ(0, this->watch_.alive());
-  EXPECT_EQ(before, counters().live());
 }
 
 TEST(ContainerAllocations, AFailedOperationLeavesAList) {
@@ -213,17 +215,17 @@ TEST(ContainerAllocations, AFailedOperationLeavesAMap) {
 // The first calls in this process: a failed one leaves nothing behind, and the next one tries
 // again.
 TEST(SingletonAllocations, AFailedFirstCallIsTriedAgain) {
-  const long before = counters().live();
   for (long first_failing = 1; first_failing <= 2; ++first_failing) {
     SCOPED_TRACE(first_failing);
+    const long before = counters().live();
     EXPECT_TRUE(
         fails_without_memory(first_failing, [] { AdditionalProcessHandlerSingleton::instance(); }));
     EXPECT_TRUE(
         fails_without_memory(first_failing, [] { StorageAuthenticationSingleton::instance(); }));
     EXPECT_TRUE(fails_without_memory(first_failing,
                                      [] { Media::EncodingPerfListenerSingleton::instance(); }));
+    EXPECT_EQ(before, counters().live());
   }
-  EXPECT_EQ(before, counters().live());
   auto& singleton = Media::EncodingPerfListenerSingleton::instance();
   EXPECT_EQ(5, made_by([&] { singleton.new_encoding_perf_listener("encoder"); }));
   for (long first_failing = 1; first_failing <= 5; ++first_failing)

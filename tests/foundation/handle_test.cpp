@@ -18,7 +18,7 @@ class HandleTest : public testing::Test {
 
 using Kinds = testing::Types<SharedFrame, SharedFrameProvider, SharedSampleProvider,
                              SharedPerfListener, SharedSample, SharedDescriptor>;
-TYPED_TEST_SUITE(HandleTest, Kinds);
+TYPED_TEST_SUITE(HandleTest, Kinds, HandleNames);
 
 TYPED_TEST(HandleTest, IsOnePointerWideAndAValue) {
   using Handle = typename TypeParam::Handle;

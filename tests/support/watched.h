@@ -6,6 +6,8 @@
 
 #include <atomic>
 #include <functional>
+#include <string>
+#include <type_traits>
 
 #include "kv_engine.h"
 
@@ -113,7 +115,7 @@ class WatchedDescriptor final : public Media::TrackDescriptor, public Watched {
   Watch& watch_;
 };
 
-// A handle class with the class behind its interface and a concrete class.
+// A handle class with the interface that it holds and a concrete class.
 template <typename HandleClass, typename ObjectClass, typename ConcreteClass>
 struct Shared {
   using Handle = HandleClass;
@@ -131,6 +133,19 @@ using SharedPerfListener =
 using SharedSample = Shared<Media::MediaSampleSharedPtr, Media::MediaSample, WatchedSample>;
 using SharedDescriptor =
     Shared<Media::TrackDescriptorSharedPtr, Media::TrackDescriptor, WatchedDescriptor>;
+
+// Names the tests of a handle after it.
+struct HandleNames {
+  template <typename Kind>
+  static std::string GetName(int /*index*/) {  // NOLINT(readability-identifier-naming)
+    if constexpr (std::is_same_v<Kind, SharedFrame>) return "FramePtr";
+    if constexpr (std::is_same_v<Kind, SharedFrameProvider>) return "FrameProviderPtr";
+    if constexpr (std::is_same_v<Kind, SharedSampleProvider>) return "ISampleProviderPtr";
+    if constexpr (std::is_same_v<Kind, SharedPerfListener>) return "IEncodingPerfListenerPtr";
+    if constexpr (std::is_same_v<Kind, SharedSample>) return "MediaSampleSharedPtr";
+    if constexpr (std::is_same_v<Kind, SharedDescriptor>) return "TrackDescriptorSharedPtr";
+  }
+};
 
 }  // namespace Korvane
 #endif  // KV_ENGINE_TESTS_SUPPORT_WATCHED_H
