@@ -8,6 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "media/track_descriptor_defaults.h"
+#include "media/track_descriptor_list.h"
 #include "support/allocations.h"
 #include "tracks/filled_descriptors.h"
 
@@ -82,11 +84,12 @@ const std::vector<Operation>& setters() {
   return list;
 }
 
-// Whether the operation came to its end.
-bool run_without_memory(const Operation& operation, PictureTrackDescriptor& track, long failing) {
+// Whether `operation` came to its end with its `failing`-th allocation and all later ones failing.
+template <typename Operation>
+bool done_without_memory(Operation&& operation, long failing) {
   const Allocations::Failure failure(failing);
   try {
-    operation.run(track);
+    operation();
   } catch (const std::bad_alloc&) {
     return false;
   }
@@ -102,7 +105,7 @@ TEST(TrackAllocations, WithoutMemoryNothingLeaksAndTheDescriptorIsAsBefore) {
       {
         PictureTrackDescriptor track;
         fill(track);
-        done = run_without_memory(operation, track, failing);
+        done = done_without_memory([&] { operation.run(track); }, failing);
         EXPECT_TRUE(done || failing < 30);
         if (!done) expect_filled(track);
         EXPECT_EQ(nullptr, done ? nullptr : track.get_key_value(std::string(200, 'x').c_str()));
@@ -122,8 +125,7 @@ TEST(TrackAllocations, AnAssignmentWithoutMemoryLeavesEachPartWhole) {
     const long live = Allocations::counters().live();
     {
       PictureTrackDescriptor target;
-      done = run_without_memory(
-          {"assignment", [&](PictureTrackDescriptor& track) { track = source; }}, target, failing);
+      done = done_without_memory([&] { target = source; }, failing);
       if (target.width() == nullptr) {
         expect_fresh(target);
       } else if (target.track_id() == nullptr) {
@@ -139,6 +141,63 @@ TEST(TrackAllocations, AnAssignmentWithoutMemoryLeavesEachPartWhole) {
     EXPECT_EQ(live, Allocations::counters().live());
   }
   EXPECT_TRUE(parted);
+}
+
+TrackDescriptorList two_tracks() {
+  TrackDescriptorList list;
+  PictureTrackDescriptor track;
+  fill(track);
+  list.add_track(track);
+  list.add_track(DataTrackDescriptor());
+  return list;
+}
+
+TEST(TrackAllocations, AListWithoutMemoryForATrackIsAsBefore) {
+  bool done = false;
+  for (long failing = 1; !done; ++failing) {
+    SCOPED_TRACE(failing);
+    const long live = Allocations::counters().live();
+    {
+      TrackDescriptorList list = two_tracks();
+      const TrackDescriptor* const first = list.track_at(0);
+      done = done_without_memory([&] { list.add_track(*first); }, failing);
+      EXPECT_EQ(done ? 3U : 2U, list.size());
+      EXPECT_EQ(first, list.track_at(0));
+    }
+    EXPECT_EQ(live, Allocations::counters().live());
+  }
+}
+
+TEST(TrackAllocations, AListWithoutMemoryForAllTracksOfAnotherIsEmpty) {
+  const TrackDescriptorList source = two_tracks();
+  bool done = false;
+  for (long failing = 1; !done; ++failing) {
+    SCOPED_TRACE(failing);
+    const long live = Allocations::counters().live();
+    {
+      TrackDescriptorList target = two_tracks();
+      target.add_track(DataTrackDescriptor());
+      done = done_without_memory([&] { target = source; }, failing);
+      EXPECT_EQ(done ? 2U : 0U, target.size());
+    }
+    EXPECT_EQ(live, Allocations::counters().live());
+  }
+}
+
+TEST(TrackAllocations, NoDescriptorIsLostHalfMade) {
+  bool done = false;
+  for (long failing = 1; !done; ++failing) {
+    SCOPED_TRACE(failing);
+    const long live = Allocations::counters().live();
+    done = done_without_memory(
+        [] {
+          TrackDescriptorDefaults::v210_1920_1080_60i(1);
+          TrackDescriptorDefaults::dnxhd_145_60i(1);
+          TrackDescriptorDefaults::pcm_stereo_24b_48k(1);
+        },
+        failing);
+    EXPECT_EQ(live, Allocations::counters().live());
+  }
 }
 
 }  // namespace
