@@ -4,6 +4,9 @@
 // Distinct handles to one listener may be copied, reset and destroyed on several threads at once. A
 // single handle is not guarded, nor is the listener. Where an operation fails, by std::bad_alloc,
 // every handle stays usable.
+//
+// The module that made the object also destroys it, so the module stays loaded until the last
+// handle is gone.
 
 #ifndef KV_ENGINE_FOUNDATION_I_ENCODING_PERF_LISTENER_PTR_H
 #define KV_ENGINE_FOUNDATION_I_ENCODING_PERF_LISTENER_PTR_H

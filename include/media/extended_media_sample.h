@@ -1,5 +1,5 @@
 // A media sample that says more of itself: what it is in full, whether it follows on, and whatever
-// else its producer tells by name.
+// else its producer tells by name. Whether a MediaSample is one is asked by dynamic_cast.
 
 #ifndef KV_ENGINE_MEDIA_EXTENDED_MEDIA_SAMPLE_H
 #define KV_ENGINE_MEDIA_EXTENDED_MEDIA_SAMPLE_H

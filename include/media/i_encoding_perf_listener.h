@@ -17,7 +17,7 @@ class KV_ENGINE_API IEncodingPerfListener {
   IEncodingPerfListener& operator=(const IEncodingPerfListener& other);
   virtual ~IEncodingPerfListener();
 
-  // Frame `number`, counted from 0 where the encoder was started, became `size` bytes and took
+  // Frame `number`, IFrame::number() of what was encoded, became `size` bytes and took
   // `duration` nanoseconds.
   virtual void frame_encoded(unsigned long long number, unsigned long long duration,
                              size_t size) = 0;

@@ -53,7 +53,7 @@ class KV_ENGINE_API IFrame {
   virtual MediaSampleSharedPtr sample_at(size_t index) const = 0;
 
   // Describes the track of the sample at `index`; null when `index` is not below sample_count().
-  // Valid as long as the frame.
+  // Valid as long as the frame; not to be written to through its getters.
   virtual const TrackDescriptor* descriptor_at(size_t index) const = 0;
 };
 

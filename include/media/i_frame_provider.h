@@ -24,7 +24,8 @@ class KV_ENGINE_API IFrameProvider : public IProviderCtrl {
   ~IFrameProvider() override;
 
   // Opens `source`: a file, an address or a device by name (UTF-8, not null), as the module
-  // understands it. What was open is closed first. The next frame read is number 0.
+  // understands it. What was open is closed first. The next frame read is number 0. A started
+  // provider stays started.
   virtual void open(const char* source) = 0;
 
   // Frees what open() took; without effect when nothing is open. Frames that were read stay valid.
@@ -33,7 +34,8 @@ class KV_ENGINE_API IFrameProvider : public IProviderCtrl {
   // Frames per second; 0/1 while nothing is open.
   virtual Rational32 edit_rate() const = 0;
 
-  // Frames from the start to the end; -1 when that is not known, as for live sources.
+  // Frames from the start to the end; -1 when that is not known, as for live sources
+  // and while nothing is open.
   virtual long long frame_count() const = 0;
 
   // 0 while nothing is open.
@@ -46,7 +48,8 @@ class KV_ENGINE_API IFrameProvider : public IProviderCtrl {
   // source has no such frame or cannot go there.
   virtual bool seek(unsigned long long number) = 0;
 
-  // The next frame, waited for if need be; an empty handle at the end and after stop().
+  // The next frame, waited for if need be; an empty handle at the end, which at_end() tells, and
+  // while the source is not started or was stopped.
   virtual FramePtr read_frame() = 0;
 
   // Whether the last read came upon the end of the source. A seek goes back from there.

@@ -6,7 +6,8 @@
 // null. Otherwise the getter gives a pointer to the stored value, through which the value may be
 // changed; the pointer is valid until the same attribute is set again, the descriptor is assigned
 // to, or it ends. Setters store any value unchecked. A setter that finds no memory leaves the
-// descriptor as it was.
+// descriptor as it was; an assignment that finds none leaves the attributes of the derived class,
+// and those of this one, all old or all new.
 
 #ifndef KV_ENGINE_MEDIA_TRACK_DESCRIPTOR_H
 #define KV_ENGINE_MEDIA_TRACK_DESCRIPTOR_H

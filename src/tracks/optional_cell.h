@@ -23,6 +23,8 @@ class OptionalCell {
   // The new cell comes in before the old one goes; without memory for it the old one stays.
   void set(T value) { cell_ = std::make_unique<T>(value); }
 
+  void swap(OptionalCell& other) noexcept { cell_.swap(other.cell_); }
+
  private:
   std::unique_ptr<T> cell_;
 };
