@@ -6,8 +6,7 @@ IStorageAuthentication::IStorageAuthentication() = default;
 
 IStorageAuthentication::IStorageAuthentication(const IStorageAuthentication&) = default;
 
-IStorageAuthentication& IStorageAuthentication::operator=(const IStorageAuthentication& other) =
-    default;
+IStorageAuthentication& IStorageAuthentication::operator=(const IStorageAuthentication&) = default;
 
 IStorageAuthentication::~IStorageAuthentication() = default;
 

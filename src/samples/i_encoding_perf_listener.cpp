@@ -6,8 +6,7 @@ IEncodingPerfListener::IEncodingPerfListener() = default;
 
 IEncodingPerfListener::IEncodingPerfListener(const IEncodingPerfListener&) = default;
 
-IEncodingPerfListener& IEncodingPerfListener::operator=(const IEncodingPerfListener& other) =
-    default;
+IEncodingPerfListener& IEncodingPerfListener::operator=(const IEncodingPerfListener&) = default;
 
 IEncodingPerfListener::~IEncodingPerfListener() = default;
 
