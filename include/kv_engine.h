@@ -50,6 +50,7 @@
 #include "media/video_descriptor_frame.h"
 #include "media/video_formats.h"
 #include "media/video_formats_helper.h"
+#include "media/video_frame.h"
 #include "timecode/time_data.h"
 #include "timecode/timecode.h"
 #include "timecode/timecode_info.h"
