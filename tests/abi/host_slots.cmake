@@ -1,0 +1,31 @@
+# Writes one row for each virtual function of slots.txt into ${KV_HOST_SLOTS}, for host_slots_test.cpp:
+# its class, its declaration, the place that the list gives it, and a pointer to it.
+set(KV_HOST_SLOTS ${CMAKE_CURRENT_BINARY_DIR}/host_slots.inc)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS
+  ${CMAKE_CURRENT_SOURCE_DIR}/slots.txt)
+
+file(STRINGS slots.txt lines REGEX "^[^#]")
+set(rows "")
+foreach(line ${lines})
+  if(line MATCHES "^  slots of (.+)$")
+    list(APPEND slots_of_${class} ${slots_of_${CMAKE_MATCH_1}})
+  elseif(line MATCHES "^  (.+)$")
+    list(APPEND slots_of_${class} "${CMAKE_MATCH_1}")
+  else()
+    set(class ${line})
+    list(APPEND classes ${class})
+  endif()
+endforeach()
+foreach(class ${classes})
+  set(place 0)
+  foreach(slot ${slots_of_${class}})
+    if(slot MATCHES "^(.*[ *&])([a-z0-9_]+)(\\(.*\\)( const)?)$")
+      string(APPEND rows "{\"${class}\", \"${slot}\", ${place}, place_of("
+        "static_cast<${CMAKE_MATCH_1}(${class}::*)${CMAKE_MATCH_3}>(&${class}::${CMAKE_MATCH_2}))},\n")
+    elseif(NOT slot STREQUAL "destructor")
+      message(FATAL_ERROR "slots.txt: ${class}: no function: ${slot}")
+    endif()
+    math(EXPR place "${place} + 1")
+  endforeach()
+endforeach()
+file(CONFIGURE OUTPUT ${KV_HOST_SLOTS} CONTENT "${rows}" @ONLY)
