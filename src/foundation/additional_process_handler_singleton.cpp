@@ -7,7 +7,7 @@
 namespace Korvane {
 namespace {
 
-LazyInstance<AdditionalProcessHandlerSingleton> the_instance;
+LazyInstance<AdditionalProcessHandlerSingleton> the_handlers;
 
 }  // namespace
 
@@ -16,7 +16,7 @@ struct AdditionalProcessHandlerSingletonPrivate {
 };
 
 AdditionalProcessHandlerSingleton& AdditionalProcessHandlerSingleton::instance() {
-  return the_instance.get([] { return new AdditionalProcessHandlerSingleton; });
+  return the_handlers.get([] { return new AdditionalProcessHandlerSingleton; });
 }
 
 AdditionalProcessHandlerSingleton::AdditionalProcessHandlerSingleton()

@@ -7,7 +7,6 @@
 #include "media/i_encoding_perf_listener_provider.h"
 
 namespace Korvane::Media {
-namespace {
 
 class DummyIEncodingPerfListener final : public IEncodingPerfListener {
  public:
@@ -23,7 +22,9 @@ class DummyIEncodingPerfListenerProvider final : public IEncodingPerfListenerPro
   }
 };
 
-LazyInstance<EncodingPerfListenerSingleton> the_instance;
+namespace {
+
+LazyInstance<EncodingPerfListenerSingleton> the_perf_listeners;
 
 }  // namespace
 
@@ -33,7 +34,7 @@ struct EncodingPerfListenerSingletonPrivate {
 };
 
 EncodingPerfListenerSingleton& EncodingPerfListenerSingleton::instance() {
-  return the_instance.get([] { return new EncodingPerfListenerSingleton; });
+  return the_perf_listeners.get([] { return new EncodingPerfListenerSingleton; });
 }
 
 EncodingPerfListenerSingleton::EncodingPerfListenerSingleton()

@@ -7,7 +7,7 @@
 namespace Korvane {
 namespace {
 
-LazyInstance<StorageAuthenticationSingleton> the_instance;
+LazyInstance<StorageAuthenticationSingleton> the_authentication;
 
 }  // namespace
 
@@ -16,7 +16,7 @@ struct StorageAuthenticationSingletonPrivate {
 };
 
 StorageAuthenticationSingleton& StorageAuthenticationSingleton::instance() {
-  return the_instance.get([] { return new StorageAuthenticationSingleton; });
+  return the_authentication.get([] { return new StorageAuthenticationSingleton; });
 }
 
 StorageAuthenticationSingleton::StorageAuthenticationSingleton()

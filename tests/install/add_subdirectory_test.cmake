@@ -1,4 +1,4 @@
 cmake_minimum_required(VERSION 3.25)
 
 include(${CMAKE_CURRENT_LIST_DIR}/consumer_project.cmake)
-kv_build_and_run(add_subdirectory -D KV_SOURCE_DIR=${SOURCE_DIR})
+kv_build_and_run(add_subdirectory -D KV_SOURCE_DIR=${SOURCE_DIR} -D CMAKE_UNITY_BUILD=ON)

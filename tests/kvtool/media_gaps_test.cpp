@@ -2,14 +2,13 @@
 
 #include <nlohmann/json.hpp>
 
+#include "kvtool/clips.h"
 #include "kvtool/tool_run.h"
 
 namespace Korvane::Tool {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-std::string clip(const std::string& name) { return KVTOOL_CLIPS + name; }
 
 TEST(MediaGaps, AContinuousClipIsDone) {
   const ToolResult result = run_tool({"gaps", clip("clip.mxf"), "--input", "media"});

@@ -2,6 +2,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include "kvtool/clips.h"
 #include "kvtool/sei_timecodes.h"
 #include "kvtool/tool_run.h"
 
@@ -9,8 +10,6 @@ namespace Korvane::Tool {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-std::string clip(const std::string& name) { return KVTOOL_CLIPS + name; }
 
 Json probe_json(const std::string& path, int expected_code) {
   const ToolResult result = run_tool({"probe", path, "--json"});

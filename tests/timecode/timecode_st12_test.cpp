@@ -4,6 +4,7 @@
 #include <string>
 
 #include "support/raises.h"
+#include "timecode/expected_labels.h"
 #include "timecode/timecode.h"
 #include "timecode/timecode_utils.h"
 
@@ -11,10 +12,6 @@ namespace Korvane {
 namespace {
 
 using TimecodeUtils::load_timecode_from_full_st12m;
-
-std::string label(const Timecode& timecode) {
-  return timecode.c_str(Timecode::DropFrameSemicolon, Timecode::FieldMarkDotSuffix);
-}
 
 struct WordCase {
   unsigned short rate;

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "support/raises.h"
+#include "timecode/expected_labels.h"
 
 namespace Korvane {
 namespace {
@@ -21,20 +22,7 @@ static_assert(sizeof(Rational32) == 8 && std::is_aggregate_v<Rational32>);
 static_assert(std::is_same_v<std::underlying_type_t<Timecode::DropFrameIndication>, unsigned int>);
 static_assert(std::is_same_v<std::underlying_type_t<Timecode::FieldMarkIndication>, unsigned int>);
 
-constexpr const char* kRateMessage = "Frame rate not supported.";
-constexpr const char* kHoursMessage = "Hours cannot be lower than 0 and higher than 24.";
-constexpr const char* kMinutesMessage = "Minutes cannot be lower than 0 and higher than 59.";
-constexpr const char* kSecondsMessage = "Seconds cannot be lower than 0 and higher than 59.";
-constexpr const char* kFramesMessage =
-    "Frames cannot be lower than 0 and higher than the frame rate value.";
-constexpr const char* kDropFrameMessage =
-    "Frames 0 and 1 not valid on minutes non-divisable per 10 for drop frame rates.";
-
 constexpr TimeData kNoon = {2026, 1, 1, 12, 0, 0, 0};
-
-std::string label(const Timecode& timecode) {
-  return timecode.c_str(Timecode::DropFrameSemicolon, Timecode::FieldMarkDotSuffix);
-}
 
 TEST(TimecodeConstruction, FromALabel) {
   const Timecode timecode(30, 1, 2, 3, 4, false, false);

@@ -9,6 +9,7 @@
 
 #include "support/log_capture.h"
 #include "support/raises.h"
+#include "timecode/expected_labels.h"
 
 namespace Korvane {
 namespace {
@@ -20,22 +21,14 @@ using TimecodeUtils::log_timecode_difference;
 using TimecodeUtils::string_to_timecode;
 using TimecodeUtils::timecode_fixer;
 
-constexpr const char* kRateMessage = "Frame rate not supported.";
 constexpr const char* kInvalidMessage = "Received invalid timecode";
 constexpr const char* kIndicationMessage =
     "Timecode mapping currently only supports semicolon indication";
-constexpr const char* kHoursMessage = "Hours cannot be lower than 0 and higher than 24.";
-constexpr const char* kFramesMessage =
-    "Frames cannot be lower than 0 and higher than the frame rate value.";
-constexpr const char* kDropFrameMessage =
-    "Frames 0 and 1 not valid on minutes non-divisable per 10 for drop frame rates.";
 
 constexpr auto kSemicolon = Timecode::DropFrameSemicolon;
 constexpr auto kDot = Timecode::FieldMarkDotSuffix;
 constexpr auto kFullRate = Timecode::FieldMarkFullRateFrames;
 constexpr auto kOmitted = Timecode::FieldMarkOmitted;
-
-std::string label(const Timecode& timecode) { return timecode.c_str(kSemicolon, kDot); }
 
 TEST(FrameRateDropFrameFilter, KeepsDropFrameAt30And60) {
   for (unsigned int rate = 0; rate <= 65535; ++rate) {

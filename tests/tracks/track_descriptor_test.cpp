@@ -47,7 +47,7 @@ void expect_full(const TrackDescriptor& track) {
   EXPECT_STREQ("left", track.get_key_value("label"));
 }
 
-void expect_fresh(const TrackDescriptor& track) {
+void expect_no_attributes(const TrackDescriptor& track) {
   EXPECT_EQ(0U, track.essence_kind());
   EXPECT_EQ(nullptr, track.track_id());
   EXPECT_EQ(nullptr, track.sample_rate());
@@ -57,7 +57,7 @@ void expect_fresh(const TrackDescriptor& track) {
   EXPECT_EQ(nullptr, track.get_key_value(""));
 }
 
-TEST(TrackDescriptor, HasNothingAtFirst) { expect_fresh(Track()); }
+TEST(TrackDescriptor, HasNothingAtFirst) { expect_no_attributes(Track()); }
 
 TEST(TrackDescriptor, KeepsWhatIsSet) { expect_full(full_track()); }
 
@@ -152,7 +152,7 @@ TEST(TrackDescriptor, KeepsCopiesOfTexts) {
 }
 
 // Changes every attribute of `track`.
-void change(TrackDescriptor& track) {
+void change_attributes(TrackDescriptor& track) {
   track.essence_kind(EssenceAiff);
   track.track_id(1);
   *track.sample_rate() = {1, 2};
@@ -165,7 +165,7 @@ TEST(TrackDescriptor, CopiesAreIndependent) {
   const Track original = full_track();
   Track copy(original);
   expect_full(copy);
-  change(copy);
+  change_attributes(copy);
   expect_full(original);
   EXPECT_EQ(nullptr, original.get_key_value("new"));
 }
@@ -178,10 +178,10 @@ TEST(TrackDescriptor, AssignmentReplacesEverything) {
   target = original;
   expect_full(target);
   EXPECT_EQ(nullptr, target.get_key_value("old"));
-  change(target);
+  change_attributes(target);
   expect_full(original);
   target = Track();
-  expect_fresh(target);
+  expect_no_attributes(target);
 }
 
 TEST(TrackDescriptor, SelfAssignmentKeepsEverythingInPlace) {
@@ -201,7 +201,7 @@ TEST(TrackDescriptor, ClonesThroughTheBase) {
   const std::unique_ptr<TrackDescriptor> clone(base.clone());
   EXPECT_NE(nullptr, dynamic_cast<Track*>(clone.get()));
   expect_full(*clone);
-  change(*clone);
+  change_attributes(*clone);
   expect_full(original);
 }
 

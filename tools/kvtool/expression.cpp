@@ -5,6 +5,7 @@
 #include <optional>
 #include <string_view>
 
+#include "characters.h"
 #include "core/exception.h"
 #include "failure.h"
 #include "label.h"
@@ -14,8 +15,6 @@
 
 namespace Korvane::Tool {
 namespace {
-
-constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 bool is_number(std::string_view text) {
   if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
@@ -32,7 +31,7 @@ Timecode read_count(const std::string& text, const Rate& rate) {
   long long count = 0;
   const auto [stop, error] = std::from_chars(digits.data(), digits.data() + digits.size(), count);
   if (error != std::errc())
-    throw InputError(quoted(text) + " is no frame count (expected a number of 64 bits)");
+    throw InputError(in_quotes(text) + " is no frame count (expected a number of 64 bits)");
   return Timecode(rate.nominal, count, rate.drop_frame);
 }
 
@@ -77,7 +76,7 @@ std::optional<TimeData> parse_clock(std::string_view text) {
 Timecode read_clock(const std::string& text, const Rate& rate) {
   const std::optional<TimeData> clock = parse_clock(text);
   if (!clock)
-    throw InputError(quoted(text) +
+    throw InputError(in_quotes(text) +
                      " is no time of day (expected HH:MM:SS or HH:MM:SS.mmm from "
                      "00:00:00 to 23:59:59.999)");
   return Timecode(rate.nominal, *clock, rate.drop_frame, rate.edit);
@@ -90,12 +89,12 @@ Expression repair_label(const std::string& text, const Rate& rate) {
     const Timecode lenient =
         TimecodeUtils::string_to_timecode(text.c_str(), rate.nominal, drop_frame);
     if (strict && strict->frame_count() == lenient.frame_count()) return {lenient, {}};
-    return {lenient, quoted(text) + " is repaired to " + label(lenient) +
+    return {lenient, in_quotes(text) + " is repaired to " + label(lenient) +
                          (strict ? "; read strictly it is " + label(*strict)
                                  : "; read strictly it is no timecode at rate " + describe(rate))};
   } catch (const Exception&) {
-    throw InputError(quoted(text) + " cannot be repaired to a timecode at rate " + describe(rate) +
-                     " (expected four fields parted by \":\", \";\" or \",\")");
+    throw InputError(in_quotes(text) + " cannot be repaired to a timecode at rate " +
+                     describe(rate) + " (expected four fields parted by \":\", \";\" or \",\")");
   }
 }
 

@@ -28,7 +28,7 @@ std::string printable_name(std::string_view name) {
   return result;
 }
 
-std::string quoted(std::string_view value) {
+std::string in_quotes(std::string_view value) {
   std::string result = "\"";
   for (const char c : value.substr(0, kLongestValue)) {
     const auto byte = static_cast<unsigned char>(c);

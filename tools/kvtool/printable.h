@@ -12,7 +12,7 @@ namespace Korvane::Tool {
 std::string printable_name(std::string_view name);
 
 // In double quotes, cut after 60 bytes; whatever is not printable ASCII is written as \xHH.
-std::string quoted(std::string_view value);
+std::string in_quotes(std::string_view value);
 
 }  // namespace Korvane::Tool
 #endif  // KV_TOOLS_KVTOOL_PRINTABLE_H

@@ -50,7 +50,8 @@ Rate parse_rate(const std::string& text, bool drop_frame) {
       throw UsageError("--drop does not go with --rate " + text + " (expected 30 or 60)");
     return counting({known.nominal, known.edit, false}, drop_frame);
   }
-  throw UsageError("--rate " + quoted(text) + " is not supported (expected " + known_rates() + ")");
+  throw UsageError("--rate " + in_quotes(text) + " is not supported (expected " + known_rates() +
+                   ")");
 }
 
 Rate counting(const Rate& rate, bool drop_frame) {

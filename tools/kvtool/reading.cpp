@@ -3,14 +3,13 @@
 #include <charconv>
 #include <string_view>
 
+#include "characters.h"
 #include "core/exception.h"
 #include "printable.h"
 #include "timecode/timecode_utils.h"
 
 namespace Korvane::Tool {
 namespace {
-
-constexpr bool is_digit(char c) { return c >= '0' && c <= '9'; }
 
 // Takes one or two digits off the front.
 bool take_field(std::string_view& text) {
@@ -109,7 +108,7 @@ std::string no_word(const std::string& text, const Rate& rate, WordSize size) {
 }
 
 std::string no_timecode(const std::string& value, const Rate& rate, const std::string& expected) {
-  return quoted(value) + " is no timecode at rate " + describe(rate) + " (expected " + expected +
+  return in_quotes(value) + " is no timecode at rate " + describe(rate) + " (expected " + expected +
          ')';
 }
 

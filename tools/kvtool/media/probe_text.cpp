@@ -26,7 +26,7 @@ void write_start_and_end(std::ostream& out, const ProbeReport& report) {
     out << "timecode        none\n";
     return;
   }
-  out << "\nstart timecode, stored as " << quoted(report.start->text) << " ("
+  out << "\nstart timecode, stored as " << in_quotes(report.start->text) << " ("
       << printable_name(report.start->where) << ")\n";
   write_text(out, forms_of(report.start->value, report.rate.edit), "  ");
   if (!report.end) return;
