@@ -20,6 +20,7 @@
 #include <limits>
 #include <ostream>
 #include <string>
+#include <tuple>
 
 #ifdef KV_HAS_RAPIDCHECK
 #include <rapidcheck.h>
@@ -28,7 +29,6 @@
 #else
 #include <array>
 #include <random>
-#include <tuple>
 #endif
 
 namespace Korvane {
@@ -68,22 +68,27 @@ struct rc::Arbitrary<Korvane::Detail::Drawn<Integer>> {
 namespace Korvane {
 namespace Detail {
 
-template <typename... Integers>
-void check(const std::function<::testing::AssertionResult(Integers...)>& property) {
-  using Result = rc::detail::CaseResult;
+inline void check_cases(const std::function<rc::detail::CaseResult()>& one_case) {
   rc::detail::TestParams parameters = rc::detail::configuration().testParams;
   parameters.maxSuccess = kCases;
-  const auto result = rc::detail::checkTestable(
-      [&](Drawn<Integers>... drawn) {
-        const ::testing::AssertionResult holds = property(drawn.value...);
-        return holds ? Result(Result::Type::Success)
-                     : Result(Result::Type::Failure, holds.message());
-      },
-      rc::detail::TestMetadata(), parameters);
+  const auto result = rc::detail::checkTestable(one_case, rc::detail::TestMetadata(), parameters);
   if (result.template is<rc::detail::SuccessResult>()) return;
   std::ostringstream report;
   rc::detail::printResultMessage(result, report);
   ADD_FAILURE() << report.str() << "\nRepeat with RC_PARAMS=\"seed=" << parameters.seed << '"';
+}
+
+// Draws inside the case, so that RapidCheck is instantiated for each type of argument only, and not
+// for each list of them.
+template <typename... Integers>
+void check(const std::function<::testing::AssertionResult(Integers...)>& property) {
+  check_cases([&] {
+    using Result = rc::detail::CaseResult;
+    const std::tuple<Drawn<Integers>...> drawn = {*rc::gen::arbitrary<Drawn<Integers>>()...};
+    const ::testing::AssertionResult holds =
+        std::apply([&](const auto&... arguments) { return property(arguments.value...); }, drawn);
+    return holds ? Result(Result::Type::Success) : Result(Result::Type::Failure, holds.message());
+  });
 }
 
 }  // namespace Detail
