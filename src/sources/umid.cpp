@@ -1,5 +1,6 @@
 #include "media/umid.h"
 
+#include <array>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -9,12 +10,21 @@
 namespace Korvane::Media {
 namespace {
 
-// The value of a hexadecimal digit of ASCII, under every locale; -1 for any other character.
+// The value of each hexadecimal digit of ASCII, and -1 for the other characters.
+constexpr std::array<signed char, 128> kDigitValues = [] {
+  std::array<signed char, 128> values{};
+  values.fill(-1);
+  for (unsigned char value = 0; value < 16; ++value) {
+    for (const char* digits : {"0123456789abcdef", "0123456789ABCDEF"})
+      values[static_cast<unsigned char>(digits[value])] = static_cast<signed char>(value);
+  }
+  return values;
+}();
+
+// Under every locale; -1 for a character that is no digit.
 constexpr int hexadecimal_value(wchar_t character) {
-  if (character >= L'0' && character <= L'9') return character - L'0';
-  if (character >= L'a' && character <= L'f') return character - L'a' + 10;
-  if (character >= L'A' && character <= L'F') return character - L'A' + 10;
-  return -1;
+  const auto code = static_cast<unsigned long>(character);
+  return code < kDigitValues.size() ? kDigitValues[code] : -1;
 }
 
 constexpr wchar_t hexadecimal_digit(unsigned int value) { return L"0123456789abcdef"[value & 15U]; }
