@@ -76,7 +76,7 @@ TEST(Umid, ReadsTwoDigitsAByte) {
     Bytes bytes;
     const wchar_t* printed;
   };
-  const Text kTexts[] = {
+  const Text texts[] = {
       {L"06:0A-2B 34", {0x06, 0x0A, 0x2B, 0x34}, L"060a2b34"},
       {L"060A2B34", {0x06, 0x0A, 0x2B, 0x34}, L"060a2b34"},
       {L"060a2b34", {0x06, 0x0A, 0x2B, 0x34}, L"060a2b34"},
@@ -95,7 +95,7 @@ TEST(Umid, ReadsTwoDigitsAByte) {
       {L"", {}, L""},
       {L"-", {}, L""},
   };
-  for (const Text& text : kTexts) {
+  for (const Text& text : texts) {
     SCOPED_TRACE(text.text);
     expect_umid(text.bytes, text.printed, Umid(text.text));
   }
