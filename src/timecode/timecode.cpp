@@ -4,7 +4,7 @@
 #include <bit>
 #include <string_view>
 
-#include "core/exception.h"
+#include "foundation/required_text.h"
 #include "foundation/wrapping.h"
 #include "timecode/frame_rate.h"
 #include "timecode/label_text.h"
@@ -37,10 +37,6 @@ unsigned long long pack_label(const TimecodeState& state, const St12Layout& layo
       layout.frames.pack(state.frames) | layout.seconds.pack(state.seconds) |
       layout.minutes.pack(state.minutes) | layout.hours.pack(state.hours);
   return with_bit(word, layout.drop_frame_bit, state.drop_frame);
-}
-
-void require_text(bool given) {
-  exception_enforce(given, InvalidArgument, "Text must not be null", true);
 }
 
 const TimecodePrivate& formatted(TimecodePrivate& record, std::string_view pattern) {
@@ -163,13 +159,11 @@ const wchar_t* Timecode::text(DropFrameIndication drop_frame,
 }
 
 const char* Timecode::formatter(const char* pattern) const {
-  require_text(pattern != nullptr);
-  return formatted(*private_, pattern).format_narrow.c_str();
+  return formatted(*private_, required_text(pattern)).format_narrow.c_str();
 }
 
 const wchar_t* Timecode::formatter(const wchar_t* pattern) const {
-  require_text(pattern != nullptr);
-  return formatted(*private_, wide_to_utf8(pattern)).format_wide.c_str();
+  return formatted(*private_, wide_to_utf8(required_text(pattern))).format_wide.c_str();
 }
 
 unsigned int Timecode::to_12m() const {

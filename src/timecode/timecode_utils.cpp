@@ -9,6 +9,7 @@
 
 #include "core/exception.h"
 #include "foundation/log_line.h"
+#include "foundation/required_text.h"
 #include "foundation/wrapping.h"
 #include "timecode/frame_rate.h"
 #include "timecode/label_scanner.h"
@@ -88,8 +89,7 @@ Timecode load_timecode_from_string(unsigned short rate, const wchar_t* text,
 
 Timecode string_to_timecode(const char* text, unsigned short rate, bool drop_frame) {
   try {
-    exception_enforce(text != nullptr, InvalidArgument, "Text must not be null", true);
-    return lenient_timecode(text, rate, drop_frame);
+    return lenient_timecode(required_text(text), rate, drop_frame);
   } catch (...) {
     return Timecode(0, 0LL, false);  // raises: every failure of this function is NotSupported
   }

@@ -1,0 +1,84 @@
+#include "media/umid.h"
+
+#include <array>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "foundation/required_text.h"
+
+namespace Korvane::Media {
+namespace {
+
+// The value of each hexadecimal digit of ASCII, and -1 for the other characters.
+constexpr std::array<signed char, 128> kDigitValues = [] {
+  std::array<signed char, 128> values{};
+  values.fill(-1);
+  for (unsigned char value = 0; value < 16; ++value) {
+    for (const char* digits : {"0123456789abcdef", "0123456789ABCDEF"})
+      values[static_cast<unsigned char>(digits[value])] = static_cast<signed char>(value);
+  }
+  return values;
+}();
+
+// Under every locale; -1 for a character that is no digit.
+constexpr int hexadecimal_value(wchar_t character) {
+  const auto code = static_cast<unsigned long>(character);
+  return code < kDigitValues.size() ? kDigitValues[code] : -1;
+}
+
+constexpr wchar_t hexadecimal_digit(unsigned int value) { return L"0123456789abcdef"[value & 15U]; }
+
+std::vector<unsigned char> bytes_of(const wchar_t* text) {
+  std::vector<unsigned char> bytes;
+  int high = -1;  // the digit that waits for the second one of its byte
+  for (; *text != L'\0'; ++text) {
+    const int digit = hexadecimal_value(*text);
+    if (digit < 0) continue;
+    if (high < 0) {
+      high = digit;
+    } else {
+      bytes.push_back(static_cast<unsigned char>(high * 16 + digit));
+      high = -1;
+    }
+  }
+  // Callers know this failure as the standard library's own.
+  if (high >= 0) throw std::out_of_range("invalid string position");
+  return bytes;
+}
+
+}  // namespace
+
+struct UmidPrivate {
+  std::vector<unsigned char> bytes;
+  std::wstring text;  // what c_str gave last
+};
+
+Umid::Umid(const wchar_t* text) : private_(new UmidPrivate{bytes_of(required_text(text)), {}}) {}
+
+Umid::Umid(const Umid& other) = default;
+
+Umid& Umid::operator=(const Umid& other) = default;
+
+Umid::~Umid() = default;
+
+const unsigned char* Umid::value() const {
+  return private_->bytes.empty() ? nullptr : private_->bytes.data();
+}
+
+unsigned char& Umid::operator[](int index) { return private_->bytes.data()[index]; }
+
+unsigned char Umid::operator[](int index) const { return private_->bytes.data()[index]; }
+
+const wchar_t* Umid::c_str() const {
+  std::wstring& text = private_->text;
+  text.resize(private_->bytes.size() * 2);
+  wchar_t* digit = text.data();
+  for (const unsigned int byte : private_->bytes) {
+    *digit++ = hexadecimal_digit(byte >> 4U);
+    *digit++ = hexadecimal_digit(byte);
+  }
+  return text.c_str();
+}
+
+}  // namespace Korvane::Media
