@@ -44,6 +44,8 @@
 #include "media/sdp_config_set.h"
 #include "media/sdp_type.h"
 #include "media/sound_track_descriptor.h"
+#include "media/srt_settings.h"
+#include "media/srt_stream_stats_data.h"
 #include "media/stream_stats_listener.h"
 #include "media/track_descriptor.h"
 #include "media/track_descriptor_defaults.h"
