@@ -8,6 +8,7 @@
 #include "failure.h"
 #include "gaps_command.h"
 #include "media_inputs.h"
+#include "table_command.h"
 #include "timecode_command.h"
 
 namespace Korvane::Tool {
@@ -24,6 +25,7 @@ Examples:
   kvtool timecode '00:59:58;00' --rate 30 --drop
   kvtool gaps list.txt --rate 25
   kvtool probe clip.mxf
+  kvtool formats --width 3840 --rate 60000/1001
 
 "kvtool COMMAND --help" tells more of each command.)";
 
@@ -120,13 +122,27 @@ void add_probe(CLI::App& app, ProbeOptions& options) {
   command.footer(kProbeFooter);
 }
 
+void add_table(CLI::App& app, const TableSubject& subject, TableRequest& request) {
+  CLI::App& command = *app.add_subcommand(subject.command, subject.description);
+  for (const TableOption& option : subject.options)
+    command
+        .add_option_function<std::string>(
+            option.name,
+            [&request, &option](const std::string& text) { request.given[option.name] = text; },
+            option.help)
+        ->type_name(option.type_name);
+  CLI::Option* const csv = command.add_flag("--csv", request.csv, "Print comma-separated values");
+  command.add_flag("--json", request.json, "Print JSON")->excludes(csv);
+  command.footer(subject.footer);
+}
+
 void say(Streams& streams, std::string line) {
   std::replace(line.begin(), line.end(), '\n', ' ');
   streams.err << "kvtool: " << line << '\n';
 }
 
 int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
-  CLI::App app("Shows and checks the timecodes of broadcast material.", "kvtool");
+  CLI::App app("Shows and checks the timecodes and tracks of broadcast material.", "kvtool");
   app.set_version_flag("--version", "kvtool " KVTOOL_VERSION);
   app.require_subcommand(0, 1);
   app.footer(kToolFooter);
@@ -136,6 +152,10 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   add_timecode(app, timecode);
   add_gaps(app, gaps);
   add_probe(app, probe);
+  const TableSubject* const subjects[] = {&formats_subject(), &colorspaces_subject(),
+                                          &essence_subject()};
+  TableRequest table;
+  for (const TableSubject* const subject : subjects) add_table(app, *subject, table);
 
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
@@ -151,7 +171,11 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   if (app.got_subcommand("timecode")) return run_timecode(timecode, streams);
   if (app.got_subcommand("gaps")) return run_gaps(gaps, streams);
   if (app.got_subcommand("probe")) return run_probe(probe, streams);
-  throw UsageError("no command given (expected timecode, gaps or probe; see kvtool --help)");
+  for (const TableSubject* const subject : subjects)
+    if (app.got_subcommand(subject->command)) return run_table(*subject, table, streams);
+  throw UsageError(
+      "no command given (expected timecode, gaps, probe, formats, colorspaces or essence; see "
+      "kvtool --help)");
 }
 
 }  // namespace
