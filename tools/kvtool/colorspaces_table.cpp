@@ -5,7 +5,7 @@
 namespace Korvane::Tool {
 namespace {
 
-using Number = unsigned long long;
+using Number = long long;
 
 constexpr unsigned int kMostPlanes = 3;
 constexpr unsigned int kHighestRaster = 65535;  // keeps every line far below 32 bits
@@ -54,7 +54,7 @@ std::vector<Cell> colorspace_row(Colorspaces colorspace, unsigned int width, uns
       strides.at(plane) = Number{layout->planes[plane].stride};
       lines.at(plane) = Number{layout->planes[plane].lines};
     }
-    frame_bytes = layout->frame_bytes;
+    frame_bytes = static_cast<Number>(layout->frame_bytes);
   }
   row.insert(row.end(), strides.begin(), strides.end());
   row.insert(row.end(), lines.begin(), lines.end());

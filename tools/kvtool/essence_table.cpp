@@ -35,8 +35,8 @@ std::string family_of(Kind kind) {
 Table build_essence(const TableRequest&) {
   Table table{{"value", "name", "family", "dnx", "prores"}, {}};
   for (const Kind kind : enumerators<Kind>())
-    table.rows.push_back({static_cast<unsigned long long>(kind), std::string(name_of(kind)),
-                          family_of(kind), Utils::is_dnx(kind), Utils::is_prores(kind)});
+    table.rows.push_back({static_cast<long long>(kind), std::string(name_of(kind)), family_of(kind),
+                          Utils::is_dnx(kind), Utils::is_prores(kind)});
   return table;
 }
 

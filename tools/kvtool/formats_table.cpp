@@ -36,10 +36,6 @@ Examples:
 JSON and CSV columns: value, name, width, height, scanning, edit_rate, aspect_ratio,
 rounded_rate, uhd, found_as; no value (of UnknownFormat) is null, or an empty field.)";
 
-std::string ratio_text(const Rational32& ratio) {
-  return std::to_string(ratio.numerator) + '/' + std::to_string(ratio.denominator);
-}
-
 VideoFormats found_as(VideoFormats format) {
   Media::PictureTrackDescriptor descriptor;
   descriptor.width(Helper::width(format));
@@ -56,7 +52,7 @@ Cell cell_of(const Ask& ask) {
 }
 
 std::vector<Cell> format_row(VideoFormats format) {
-  using Number = unsigned long long;
+  using Number = long long;
   return {
       Number{format},
       std::string(name_of(format)),
@@ -65,7 +61,7 @@ std::vector<Cell> format_row(VideoFormats format) {
       cell_of(
           [&] { return std::string(Helper::interlaced(format) ? "interlaced" : "progressive"); }),
       cell_of([&] { return describe(Helper::edit_rate(format)); }),
-      cell_of([&] { return ratio_text(Helper::aspect_ratio(format)); }),
+      cell_of([&] { return describe_ratio(Helper::aspect_ratio(format)); }),
       cell_of([&] { return Number{Helper::rounded_frame_rate(format)}; }),
       Helper::is_uhd_format(format),
       cell_of([&] { return std::string(name_of(found_as(format))); }),

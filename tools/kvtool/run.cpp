@@ -67,18 +67,23 @@ position in "line", "sample" or "frame", expected, actual, and frames: how far a
 lies after expected).)";
 
 constexpr const char* kProbeFooter =
-    R"(Reads every frame of the first video stream. Exit code 1 when the file has no timecode,
-is shorter than it says, or when a timecode does not follow from the one before.
+    R"(Describes every stream of the file as a track, with what the file itself states, and the
+raw layouts that its pictures could be carried in; reads the timecodes of every frame of
+the first video stream. Exit code 1 when a video has no timecode, is shorter than it says,
+or when a timecode does not follow from the one before; a file of sound alone is fine.
 
 Examples:
   kvtool probe clip.mxf
   kvtool probe clip.mov --json
 
 JSON keys: file, container (format, name), video (a list: stream, codec, profile, width,
-height, frame_rate, timecode_rate), frames, timecode (null, or: stored with text and
-where, start, end, both with the keys of "kvtool timecode --json"), frame_timecodes
-(null, or: carrier, count, list of frame and timecode, differences with frame, expected,
-actual, frames), start_difference (null, or: container, first_frame).)";
+height, frame_rate, timecode_rate), tracks (a list: stream, kind, codec, profile,
+descriptor, null in it for what the file does not state; of pictures video_format,
+image_info, layouts; of sound audio_info), frames (null when none are read), timecode
+(null, or: stored with text and where, start, end, both with the keys of "kvtool timecode
+--json"), frame_timecodes (null, or: carrier, count, list of frame and timecode,
+differences with frame, expected, actual, frames), start_difference (null, or: container,
+first_frame). All of it stands in the schema share/kv_Engine_r/probe.schema.json.)";
 
 void add_timecode(CLI::App& app, TimecodeOptions& options) {
   CLI::App& command = *app.add_subcommand("timecode", "Show one timecode in every form");
@@ -116,7 +121,7 @@ void add_gaps(CLI::App& app, GapsOptions& options) {
 }
 
 void add_probe(CLI::App& app, ProbeOptions& options) {
-  CLI::App& command = *app.add_subcommand("probe", "Show the timecodes of a media file");
+  CLI::App& command = *app.add_subcommand("probe", "Show the tracks and timecodes of a media file");
   command.add_option("FILE", options.file, "Media file")->required()->type_name("");
   command.add_flag("--json", options.json, "Print JSON");
   command.footer(kProbeFooter);

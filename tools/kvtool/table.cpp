@@ -12,7 +12,7 @@ std::string heading(std::string column) {
   return column;
 }
 
-bool is_number(const Cell& cell) { return std::holds_alternative<unsigned long long>(cell); }
+bool is_number(const Cell& cell) { return std::holds_alternative<long long>(cell); }
 
 struct ColumnLayout {
   std::size_t width;
@@ -42,7 +42,7 @@ void write_line(std::ostream& out, const std::string& indent, const std::vector<
 std::string csv_field(const Cell& cell) {
   if (std::holds_alternative<std::monostate>(cell)) return "";
   if (const bool* const flag = std::get_if<bool>(&cell)) return *flag ? "true" : "false";
-  const std::string text = text_of(cell);
+  std::string text = text_of(cell);
   if (text.find_first_of("\",\r\n") == std::string::npos) return text;
   std::string quoted = "\"";
   for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
@@ -63,8 +63,7 @@ void write_csv_line(std::ostream& out, const Values& values, const Text& text) {
 
 std::string text_of(const Cell& cell) {
   if (const bool* const flag = std::get_if<bool>(&cell)) return *flag ? "yes" : "no";
-  if (const auto* const number = std::get_if<unsigned long long>(&cell))
-    return std::to_string(*number);
+  if (const auto* const number = std::get_if<long long>(&cell)) return std::to_string(*number);
   const std::string* const text = std::get_if<std::string>(&cell);
   return text != nullptr ? *text : "-";
 }

@@ -11,7 +11,7 @@
 namespace Korvane::Tool {
 
 // Empty where there is no value.
-using Cell = std::variant<std::monostate, bool, unsigned long long, std::string>;
+using Cell = std::variant<std::monostate, bool, long long, std::string>;
 
 struct Table {
   std::vector<std::string> columns;     // as JSON keys: "edit_rate"

@@ -62,7 +62,8 @@ Cell parse_value(const TableOption& option, const std::string& text, const Table
                  std::size_t column) {
   switch (option.value) {
     case TableValue::Number:
-      return parse_number(option.name, text, 0, std::numeric_limits<unsigned int>::max());
+      return static_cast<long long>(
+          parse_number(option.name, text, 0, std::numeric_limits<unsigned int>::max()));
     case TableValue::Rate:
       return describe(parse_rate(text, false).edit);
     case TableValue::Listed:
