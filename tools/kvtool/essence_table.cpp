@@ -6,7 +6,7 @@ namespace Korvane::Tool {
 namespace {
 
 using Kind = Media::TrackDescriptorEssenceKind;
-namespace Utils = Media::TrackDescriptorUtils;
+namespace Families = Media::TrackDescriptorUtils;
 
 constexpr TableOption kEssenceOptions[] = {
     {"--value", "value", TableValue::Number, "N", "The kind of this number"},
@@ -27,16 +27,16 @@ Examples:
 JSON and CSV columns: value, name, family, dnx, prores.)";
 
 std::string family_of(Kind kind) {
-  if (Utils::is_audio_track(kind)) return "audio";
-  if (Utils::is_video_track(kind)) return "video";
-  return Utils::is_data_track(kind) ? "data" : "none";
+  if (Families::is_audio_track(kind)) return "audio";
+  if (Families::is_video_track(kind)) return "video";
+  return Families::is_data_track(kind) ? "data" : "none";
 }
 
 Table build_essence(const TableRequest&) {
   Table table{{"value", "name", "family", "dnx", "prores"}, {}};
   for (const Kind kind : enumerators<Kind>())
     table.rows.push_back({static_cast<long long>(kind), std::string(name_of(kind)), family_of(kind),
-                          Utils::is_dnx(kind), Utils::is_prores(kind)});
+                          Families::is_dnx(kind), Families::is_prores(kind)});
   return table;
 }
 

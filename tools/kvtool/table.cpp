@@ -12,7 +12,7 @@ std::string heading(std::string column) {
   return column;
 }
 
-bool is_number(const Cell& cell) { return std::holds_alternative<long long>(cell); }
+bool holds_number(const Cell& cell) { return std::holds_alternative<long long>(cell); }
 
 struct ColumnLayout {
   std::size_t width;
@@ -23,13 +23,13 @@ ColumnLayout layout_of_column(const Table& table, std::size_t column) {
   ColumnLayout layout{table.columns[column].size(), false};
   for (const std::vector<Cell>& row : table.rows) {
     layout.width = std::max(layout.width, text_of(row[column]).size());
-    layout.to_the_right = layout.to_the_right || is_number(row[column]);
+    layout.to_the_right = layout.to_the_right || holds_number(row[column]);
   }
   return layout;
 }
 
-void write_line(std::ostream& out, const std::string& indent, const std::vector<std::string>& texts,
-                const std::vector<ColumnLayout>& layouts) {
+void write_row(std::ostream& out, const std::string& indent, const std::vector<std::string>& texts,
+               const std::vector<ColumnLayout>& layouts) {
   std::string line = indent;
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const std::string blanks(layouts[i].width - texts[i].size(), ' ');
@@ -75,10 +75,10 @@ void write_text(std::ostream& out, const Table& table, const std::string& indent
     layouts.push_back(layout_of_column(table, i));
     texts.push_back(heading(table.columns[i]));
   }
-  write_line(out, indent, texts, layouts);
+  write_row(out, indent, texts, layouts);
   for (const std::vector<Cell>& row : table.rows) {
     std::transform(row.begin(), row.end(), texts.begin(), text_of);
-    write_line(out, indent, texts, layouts);
+    write_row(out, indent, texts, layouts);
   }
 }
 

@@ -111,13 +111,13 @@ std::unique_ptr<Media::TrackDescriptor> describe_stream(const MediaFile& file, A
   return describe_data(stream);
 }
 
-// Returns the keys.
+// Returns the keys, each once: of several values under one the descriptor keeps the first.
 std::vector<std::string> add_metadata(const AVStream& stream, Media::TrackDescriptor& descriptor) {
   std::vector<std::string> keys;
   const AVDictionaryEntry* entry = nullptr;
   while ((entry = av_dict_get(stream.metadata, "", entry, AV_DICT_IGNORE_SUFFIX)) != nullptr) {
+    if (descriptor.get_key_value(entry->key) == nullptr) keys.emplace_back(entry->key);
     descriptor.add_key_value(entry->key, entry->value);
-    keys.emplace_back(entry->key);
   }
   return keys;
 }
