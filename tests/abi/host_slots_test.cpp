@@ -30,6 +30,8 @@ struct HostSlot {
   std::ptrdiff_t place;
 };
 
+using UmidKind = IUmidInfo::UmidKind;  // the list leaves out scopes
+
 TEST(HostSlots, AreThoseOfTheList) {
   const HostSlot slots[] = {
 #include "host_slots.inc"

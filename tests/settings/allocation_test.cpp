@@ -11,7 +11,7 @@
 #include "media/multiviewer_source_list.h"
 #include "support/without_memory.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::AllocationTests {
 namespace {
 
 using Allocations::made_by;
@@ -259,4 +259,4 @@ TEST(SettingAllocations, NoRecordIsLostWhenANullTextIsRefused) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::AllocationTests

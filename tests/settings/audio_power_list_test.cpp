@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace Korvane::Media {
+namespace Korvane::Media::AudioPowerListTests {
 namespace {
 
 static_assert(sizeof(AudioPowerList) == sizeof(void*));
@@ -125,4 +125,4 @@ TEST(AudioPowerList, AssignmentToItselfDoesNothing) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::AudioPowerListTests

@@ -7,7 +7,7 @@
 
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::AudioTrackConfigTests {
 namespace {
 
 using Config = AudioTrackConfig;
@@ -81,4 +81,4 @@ TEST(AudioTrackConfig, AssignmentToItselfKeepsTheChannels) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::AudioTrackConfigTests

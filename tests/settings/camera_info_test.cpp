@@ -8,7 +8,7 @@
 
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::CameraInfoTests {
 namespace {
 
 static_assert(sizeof(CameraInfo) == sizeof(void*));
@@ -164,4 +164,4 @@ TEST(CameraInfo, AssignmentToItselfDoesNothing) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::CameraInfoTests

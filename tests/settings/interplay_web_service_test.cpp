@@ -12,7 +12,7 @@
 #include "support/log_capture.h"
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::InterplayWebServiceTests {
 namespace {
 
 using Service = InterplayWebService;
@@ -166,4 +166,4 @@ TEST(InterplayWebService, TakesItsOwnTexts) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::InterplayWebServiceTests

@@ -10,7 +10,7 @@
 
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::MultiviewerConfigTests {
 namespace {
 
 using Config = MultiviewerConfig;
@@ -138,4 +138,4 @@ TEST(MultiviewerConfig, TakesItsOwnAddress) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::MultiviewerConfigTests

@@ -10,7 +10,7 @@
 #include "media/multiviewer_source.h"
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::MultiviewerSourceListTests {
 namespace {
 
 using List = MultiviewerSourceList;
@@ -144,4 +144,4 @@ TEST(MultiviewerSourceList, AssignmentToItselfKeepsTheTiles) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::MultiviewerSourceListTests

@@ -9,7 +9,7 @@
 
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::MultiviewerSourceTests {
 namespace {
 
 using Source = MultiviewerSource;
@@ -120,4 +120,4 @@ TEST(MultiviewerSource, TakesItsOwnChannel) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::MultiviewerSourceTests

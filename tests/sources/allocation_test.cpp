@@ -8,7 +8,7 @@
 #include "media/umid.h"
 #include "support/without_memory.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::AllocationTests {
 namespace {
 
 using Allocations::made_by;
@@ -103,4 +103,4 @@ TEST(SourceAllocations, NoRecordIsLostWhenATextIsRefused) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::AllocationTests

@@ -6,7 +6,7 @@
 
 #include "media/umid.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::IUmidInfoTests {
 namespace {
 
 static_assert(sizeof(IUmidInfo) == sizeof(void*));
@@ -53,4 +53,4 @@ TEST(IUmidInfo, ItsImplementationsCanBeCopied) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::IUmidInfoTests

@@ -9,7 +9,7 @@
 #include "media/umid.h"
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::SourceInfoTests {
 namespace {
 
 static_assert(sizeof(SourceInfo) == 2 * sizeof(void*));
@@ -174,4 +174,4 @@ TEST(SourceInfo, IsDestroyedThroughItsInterface) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::SourceInfoTests

@@ -15,7 +15,7 @@
 #include "support/property.h"
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::UmidTests {
 namespace {
 
 static_assert(sizeof(Umid) == sizeof(void*));
@@ -267,4 +267,4 @@ TEST(Umid, NoLocaleChangesTheText) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::UmidTests

@@ -9,7 +9,7 @@
 #include "support/allocations.h"
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::AllocationTests {
 namespace {
 
 using Allocations::made_by;
@@ -203,4 +203,4 @@ TEST(StreamAllocations, WithoutMemorySamplesAreAsBefore) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::AllocationTests

@@ -14,7 +14,7 @@
 #include "media/track_bit_rates.h"
 #include "media/track_bit_rates_list.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::ListsTests {
 namespace {
 
 // How each list is used, with elements that are told apart by a number.
@@ -189,4 +189,4 @@ TEST(TrackBitRatesList, KeepsTracksOfOneKindApart) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::ListsTests

@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-namespace Korvane::Media {
+namespace Korvane::Media::SdpConfigSetTests {
 namespace {
 
 static_assert(sizeof(SdpConfigSet) == sizeof(void*));
@@ -121,4 +121,4 @@ TEST(SdpConfigSet, TakesEndpointsOfItsOwn) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::SdpConfigSetTests

@@ -10,7 +10,7 @@
 
 #include "support/raises.h"
 
-namespace Korvane::Media {
+namespace Korvane::Media::SdpConfigTests {
 namespace {
 
 static_assert(sizeof(SdpType) == 4 && SdpVideo == 0 && SdpAudio == 1 && SdpAnc == 2);
@@ -147,4 +147,4 @@ TEST(SdpConfig, DerivedClassesEndThroughIt) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::SdpConfigTests

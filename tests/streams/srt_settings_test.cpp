@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace Korvane::Media {
+namespace Korvane::Media::SrtSettingsTests {
 namespace {
 
 static_assert(sizeof(SrtSettings) == 2 * sizeof(void*));
@@ -91,4 +91,4 @@ TEST(SrtSettings, DerivedClassesEndThroughIt) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::SrtSettingsTests

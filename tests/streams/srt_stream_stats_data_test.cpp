@@ -9,7 +9,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace Korvane::Media {
+namespace Korvane::Media::SrtStreamStatsDataTests {
 namespace {
 
 using Data = SRTStreamStatsData;
@@ -231,4 +231,4 @@ TEST(SRTStreamStatsData, WithANanDiffersEvenFromItself) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::SrtStreamStatsDataTests

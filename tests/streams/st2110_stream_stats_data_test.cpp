@@ -7,7 +7,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace Korvane::Media {
+namespace Korvane::Media::St2110StreamStatsDataTests {
 namespace {
 
 using Data = ST2110StreamStatsData;
@@ -108,4 +108,4 @@ TEST(ST2110StreamStatsData, WithANanDiffersEvenFromItself) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::St2110StreamStatsDataTests

@@ -6,7 +6,7 @@
 #include <type_traits>
 #include <utility>
 
-namespace Korvane::Media {
+namespace Korvane::Media::TrackBitRatesTests {
 namespace {
 
 static_assert(sizeof(TrackBitRates) == sizeof(void*));
@@ -60,4 +60,4 @@ TEST(TrackBitRates, AssignmentToItselfDoesNothing) {
 }
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane::Media::TrackBitRatesTests

@@ -69,6 +69,10 @@ std::string describe(const Rational32& edit_rate) {
                                     : numerator + '/' + std::to_string(edit_rate.denominator);
 }
 
+std::string describe_ratio(const Rational32& ratio) {
+  return std::to_string(ratio.numerator) + '/' + std::to_string(ratio.denominator);
+}
+
 unsigned short nominal_rate(const Rational32& frame_rate) {
   if (frame_rate.numerator <= 0 || frame_rate.denominator <= 0) return 0;
   for (const NamedRate& known : kRates)

@@ -28,6 +28,9 @@ std::string describe(const Rate& rate);
 // "30000/1001", "25".
 std::string describe(const Rational32& edit_rate);
 
+// "16/9", "25/1".
+std::string describe_ratio(const Rational32& ratio);
+
 // The nominal rate of a measured frame rate, or 0 when no timecode counts at it. Containers round
 // frame rates, hence a tolerance of 0.03 percent, a third of what parts 30 from 30000/1001.
 unsigned short nominal_rate(const Rational32& frame_rate);

@@ -8,6 +8,7 @@
 #include "failure.h"
 #include "gaps_command.h"
 #include "media_inputs.h"
+#include "table_command.h"
 #include "timecode_command.h"
 
 namespace Korvane::Tool {
@@ -24,6 +25,7 @@ Examples:
   kvtool timecode '00:59:58;00' --rate 30 --drop
   kvtool gaps list.txt --rate 25
   kvtool probe clip.mxf
+  kvtool formats --width 3840 --rate 60000/1001
 
 "kvtool COMMAND --help" tells more of each command.)";
 
@@ -65,18 +67,23 @@ position in "line", "sample" or "frame", expected, actual, and frames: how far a
 lies after expected).)";
 
 constexpr const char* kProbeFooter =
-    R"(Reads every frame of the first video stream. Exit code 1 when the file has no timecode,
-is shorter than it says, or when a timecode does not follow from the one before.
+    R"(Describes every stream of the file as a track, with what the file itself states, and the
+raw layouts that its pictures could be carried in; reads the timecodes of every frame of
+the first video stream. Exit code 1 when a video has no timecode, is shorter than it says,
+or when a timecode does not follow from the one before; a file of sound alone is fine.
 
 Examples:
   kvtool probe clip.mxf
   kvtool probe clip.mov --json
 
 JSON keys: file, container (format, name), video (a list: stream, codec, profile, width,
-height, frame_rate, timecode_rate), frames, timecode (null, or: stored with text and
-where, start, end, both with the keys of "kvtool timecode --json"), frame_timecodes
-(null, or: carrier, count, list of frame and timecode, differences with frame, expected,
-actual, frames), start_difference (null, or: container, first_frame).)";
+height, frame_rate, timecode_rate), tracks (a list: stream, kind, codec, profile,
+descriptor, null in it for what the file does not state; of pictures video_format,
+image_info, layouts; of sound audio_info), frames (null when none are read), timecode
+(null, or: stored with text and where, start, end, both with the keys of "kvtool timecode
+--json"), frame_timecodes (null, or: carrier, count, list of frame and timecode,
+differences with frame, expected, actual, frames), start_difference (null, or: container,
+first_frame). All of it stands in the schema share/kv_Engine_r/probe.schema.json.)";
 
 void add_timecode(CLI::App& app, TimecodeOptions& options) {
   CLI::App& command = *app.add_subcommand("timecode", "Show one timecode in every form");
@@ -114,10 +121,24 @@ void add_gaps(CLI::App& app, GapsOptions& options) {
 }
 
 void add_probe(CLI::App& app, ProbeOptions& options) {
-  CLI::App& command = *app.add_subcommand("probe", "Show the timecodes of a media file");
+  CLI::App& command = *app.add_subcommand("probe", "Show the tracks and timecodes of a media file");
   command.add_option("FILE", options.file, "Media file")->required()->type_name("");
   command.add_flag("--json", options.json, "Print JSON");
   command.footer(kProbeFooter);
+}
+
+void add_table(CLI::App& app, const TableSubject& subject, TableRequest& request) {
+  CLI::App& command = *app.add_subcommand(subject.command, subject.description);
+  for (const TableOption& option : subject.options)
+    command
+        .add_option_function<std::string>(
+            option.name,
+            [&request, &option](const std::string& text) { request.given[option.name] = text; },
+            option.help)
+        ->type_name(option.type_name);
+  CLI::Option* const csv = command.add_flag("--csv", request.csv, "Print comma-separated values");
+  command.add_flag("--json", request.json, "Print JSON")->excludes(csv);
+  command.footer(subject.footer);
 }
 
 void say(Streams& streams, std::string line) {
@@ -126,7 +147,7 @@ void say(Streams& streams, std::string line) {
 }
 
 int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
-  CLI::App app("Shows and checks the timecodes of broadcast material.", "kvtool");
+  CLI::App app("Shows and checks the timecodes and tracks of broadcast material.", "kvtool");
   app.set_version_flag("--version", "kvtool " KVTOOL_VERSION);
   app.require_subcommand(0, 1);
   app.footer(kToolFooter);
@@ -136,6 +157,10 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   add_timecode(app, timecode);
   add_gaps(app, gaps);
   add_probe(app, probe);
+  const TableSubject* const subjects[] = {&formats_subject(), &colorspaces_subject(),
+                                          &essence_subject()};
+  TableRequest table;
+  for (const TableSubject* const subject : subjects) add_table(app, *subject, table);
 
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
@@ -151,7 +176,11 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   if (app.got_subcommand("timecode")) return run_timecode(timecode, streams);
   if (app.got_subcommand("gaps")) return run_gaps(gaps, streams);
   if (app.got_subcommand("probe")) return run_probe(probe, streams);
-  throw UsageError("no command given (expected timecode, gaps or probe; see kvtool --help)");
+  for (const TableSubject* const subject : subjects)
+    if (app.got_subcommand(subject->command)) return run_table(*subject, table, streams);
+  throw UsageError(
+      "no command given (expected timecode, gaps, probe, formats, colorspaces or essence; see "
+      "kvtool --help)");
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ int run_timecode(const TimecodeOptions& options, Streams& streams) {
   }
   const TimecodeForms forms = forms_of(timecode, counting(rate, timecode.drop_frame()).edit);
   if (options.json)
-    streams.out << to_json(forms).dump(2) << '\n';
+    write_json(streams.out, forms);
   else
     write_text(streams.out, forms, "");
   return Done;

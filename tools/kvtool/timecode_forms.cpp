@@ -1,5 +1,6 @@
 #include "timecode_forms.h"
 
+#include <nlohmann/json.hpp>
 #include <set>
 #include <string_view>
 
@@ -85,6 +86,10 @@ void write_text(std::ostream& out, const TimecodeForms& forms, const std::string
   lines.write("milliseconds", forms.milliseconds);
   lines.write("ST 12 word, 32 bits", forms.word_32);
   lines.write("ST 12 word, 64 bits", forms.word_64);
+}
+
+void write_json(std::ostream& out, const TimecodeForms& forms) {
+  out << to_json(forms).dump(2) << '\n';
 }
 
 nlohmann::ordered_json to_json(const TimecodeForms& forms) {

@@ -3,8 +3,9 @@
 #ifndef KV_TOOLS_KVTOOL_TIMECODE_FORMS_H
 #define KV_TOOLS_KVTOOL_TIMECODE_FORMS_H
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/json_fwd.hpp>
 #include <ostream>
+#include <string>
 
 #include "rate.h"
 #include "timecode/timecode.h"
@@ -33,6 +34,7 @@ TimecodeForms forms_of(const Timecode& timecode, const Rational32& edit_rate);
 // One form a line, each begun with `indent`; labels that read alike are written once.
 void write_text(std::ostream& out, const TimecodeForms& forms, const std::string& indent);
 
+void write_json(std::ostream& out, const TimecodeForms& forms);
 nlohmann::ordered_json to_json(const TimecodeForms& forms);
 
 }  // namespace Korvane::Tool

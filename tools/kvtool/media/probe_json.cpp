@@ -1,6 +1,9 @@
+#include <nlohmann/json.hpp>
+
 #include "label.h"
 #include "media/probe_report.h"
 #include "timecode_forms.h"
+#include "tracks.h"
 
 namespace Korvane::Tool {
 namespace {
@@ -60,18 +63,24 @@ Json start_difference_json(const ProbeReport& report) {
           {"first_frame", report.start_difference->first_frame}};
 }
 
-}  // namespace
-
-Json to_json(const ProbeReport& report) {
+Json report_json(const ProbeReport& report) {
   Json video = Json::array();
   for (const VideoTrack& track : report.video) video.push_back(video_json(track));
   return {{"file", report.file},
           {"container", {{"format", report.format}, {"name", report.format_name}}},
           {"video", std::move(video)},
-          {"frames", report.frames},
+          {"tracks", to_json(report.tracks)},
+          {"frames", report.frames ? Json(*report.frames) : Json()},
           {"timecode", timecode_json(report)},
           {"frame_timecodes", frame_timecodes_json(report)},
           {"start_difference", start_difference_json(report)}};
+}
+
+}  // namespace
+
+// Text of the file that is not UTF-8 does not keep the rest from being read.
+void write_json(std::ostream& out, const ProbeReport& report) {
+  out << report_json(report).dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
 }
 
 }  // namespace Korvane::Tool

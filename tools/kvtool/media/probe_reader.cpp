@@ -4,6 +4,7 @@
 #include "failure.h"
 #include "label.h"
 #include "media/probe_report.h"
+#include "media/track_reader.h"
 #include "printable.h"
 #include "progress.h"
 #include "reading.h"
@@ -74,13 +75,17 @@ void read_frames(const MediaFile& file, AVStream& stream, ProbeReport& report) {
   FrameTimecodes timecodes(file, stream, report.rate);
   FrameTimecodeList list{timecodes.carrier(), {}, {}};
   ContinuityCheck check(list);
-  while (const std::optional<FrameTimecode> found = timecodes.next()) check.add(*found);
-  report.frames = timecodes.frames_read();
+  while (const std::optional<FrameTimecode> found = timecodes.next()) {
+    check.add(*found);
+    report.frames = timecodes.frames_read();
+  }
+  const unsigned long long frames = timecodes.frames_read();
+  report.frames = frames;
   if (!list.list.empty()) report.frame_timecodes = std::move(list);
 
   const std::optional<unsigned long long> stated = stated_frames(file, stream);
-  if (stated && report.frames + timecodes.frames_discarded() < *stated)
-    throw InputError(file.name() + ": " + std::to_string(report.frames) +
+  if (stated && frames + timecodes.frames_discarded() < *stated)
+    throw InputError(file.name() + ": " + std::to_string(frames) +
                      " frames can be read (expected " + std::to_string(*stated) +
                      ", which the container states)");
 }
@@ -101,9 +106,28 @@ void conclude(ProbeReport& report) {
   else if (by_frames &&
            by_frames->absolute_frame_count() != report.start->value.absolute_frame_count())
     report.start_difference = {label(report.start->value), label(*by_frames)};
-  if (!report.start || report.frames == 0) return;
+  if (!report.start || report.frames == 0U) return;
   report.end = report.start->value;
-  report.end->add(static_cast<long long>(report.frames) - 1);
+  report.end->add(static_cast<long long>(report.frames.value()) - 1);
+}
+
+// The first video stream, frame by frame.
+void read_timecodes(const MediaFile& file, Input& input, Streams& streams, ProbeReport& report) {
+  const VideoTrack& track = report.video.front();
+  if (track.timecode_rate == 0) {
+    report.complaint = describe_rate_without_timecode(file, track.frame_rate);
+    return;
+  }
+  AVStream& video = *file.format().streams[track.stream];
+  report.rate = timecode_rate_of(file, video);
+  report.start = read_stored(file, video, report.rate);
+  Progress progress(streams, input.name(), input.size());
+  report.frames = 0;
+  input.on_read([&] { progress.update(file.bytes_read(), report.frames.value_or(0)); });
+  read_frames(file, video, report);
+  conclude(report);
+  if (!report.start)
+    report.complaint = file.name() + ": no timecode (expected one in the container or in a frame)";
 }
 
 }  // namespace
@@ -111,21 +135,16 @@ void conclude(ProbeReport& report) {
 ProbeReport read_probe_report(const std::string& path, Streams& streams) {
   Input input(path, streams.in);
   const MediaFile file(input);
-  AVStream& video = file.first_stream(AVMEDIA_TYPE_VIDEO, "video");
 
   ProbeReport report{};
   report.file = input.name();
   report.format = file.format().iformat->name;
   report.format_name = file.format().iformat->long_name;
+  report.tracks = read_tracks(file);
   for (AVStream* const stream : std::span(file.format().streams, file.format().nb_streams))
     if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !is_cover_picture(*stream))
       report.video.push_back(video_track_of(file, *stream));
-  report.rate = timecode_rate_of(file, video);
-  report.start = read_stored(file, video, report.rate);
-  Progress progress(streams, input.name(), input.size());
-  input.on_read([&] { progress.update(file.bytes_read(), report.frames); });
-  read_frames(file, video, report);
-  conclude(report);
+  if (!report.video.empty()) read_timecodes(file, input, streams, report);
   return report;
 }
 

@@ -3,7 +3,6 @@
 #ifndef KV_TOOLS_KVTOOL_MEDIA_PROBE_REPORT_H
 #define KV_TOOLS_KVTOOL_MEDIA_PROBE_REPORT_H
 
-#include <nlohmann/json.hpp>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -14,6 +13,7 @@
 #include "media/video_track.h"
 #include "streams.h"
 #include "timecode/timecode.h"
+#include "tracks.h"
 
 namespace Korvane::Tool {
 
@@ -50,9 +50,12 @@ struct StartDifference {
 struct ProbeReport {
   std::string file;
   std::string format, format_name;
+  TrackReport tracks;
   std::vector<VideoTrack> video;
-  Rate rate;  // of the first video stream, which the rest is about
-  unsigned long long frames = 0;
+  // What keeps the timecodes of a video from being shown: the line for the user.
+  std::optional<std::string> complaint;
+  Rate rate;                                 // of the first video stream, which the rest is about
+  std::optional<unsigned long long> frames;  // absent where none are read: no video, no rate
   std::optional<StoredTimecode> start;
   std::optional<Timecode> end;  // of the last frame
   std::optional<FrameTimecodeList> frame_timecodes;
@@ -67,7 +70,7 @@ struct ProbeReport {
 ProbeReport read_probe_report(const std::string& path, Streams& streams);
 
 void write_text(std::ostream& out, const ProbeReport& report);
-nlohmann::ordered_json to_json(const ProbeReport& report);
+void write_json(std::ostream& out, const ProbeReport& report);
 
 }  // namespace Korvane::Tool
 #endif  // KV_TOOLS_KVTOOL_MEDIA_PROBE_REPORT_H

@@ -23,7 +23,7 @@ void write_video(std::ostream& out, const VideoTrack& track) {
 
 void write_start_and_end(std::ostream& out, const ProbeReport& report) {
   if (!report.start) {
-    out << "timecode        none\n";
+    out << "\ntimecode        none\n";
     return;
   }
   out << "\nstart timecode, stored as " << in_quotes(report.start->text) << " ("
@@ -72,8 +72,9 @@ void write_text(std::ostream& out, const ProbeReport& report) {
   out << printable_name(report.file) << '\n';
   out << "container       " << report.format_name << '\n';
   for (const VideoTrack& track : report.video) write_video(out, track);
-  out << "frames          " << report.frames << '\n';
-  write_start_and_end(out, report);
+  if (report.frames) out << "frames          " << *report.frames << '\n';
+  write_text(out, report.tracks);
+  if (report.frames) write_start_and_end(out, report);
   if (report.frame_timecodes) {
     write_list(out, report, *report.frame_timecodes);
     write_differences(out, *report.frame_timecodes);

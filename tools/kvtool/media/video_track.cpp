@@ -25,13 +25,16 @@ VideoTrack video_track_of(const MediaFile& file, AVStream& stream) {
           nominal_rate(frame_rate)};
 }
 
+std::string describe_rate_without_timecode(const MediaFile& file, const Rational32& frame_rate) {
+  return file.name() + ": video of " + describe(frame_rate) +
+         " frames per second has no timecode rate (expected 24, 25, 30, 50, 60, 24000/1001, "
+         "30000/1001 or 60000/1001)";
+}
+
 Rate timecode_rate_of(const MediaFile& file, AVStream& stream) {
   const Rational32 frame_rate = frame_rate_of(file, stream);
   const unsigned short nominal = nominal_rate(frame_rate);
-  if (nominal == 0)
-    throw InputError(file.name() + ": video of " + describe(frame_rate) +
-                     " frames per second has no timecode rate (expected 24, 25, 30, 50, 60, "
-                     "24000/1001, 30000/1001 or 60000/1001)");
+  if (nominal == 0) throw InputError(describe_rate_without_timecode(file, frame_rate));
   return {nominal, frame_rate, false};
 }
 

@@ -23,6 +23,9 @@ struct VideoTrack {
 
 VideoTrack video_track_of(const MediaFile& file, AVStream& stream);
 
+// "no timecode counts at this rate", for the user.
+std::string describe_rate_without_timecode(const MediaFile& file, const Rational32& frame_rate);
+
 // Raises InputError for a frame rate at which no timecode counts.
 Rate timecode_rate_of(const MediaFile& file, AVStream& stream);
 

@@ -1,0 +1,27 @@
+#include <nlohmann/json.hpp>
+
+#include "table.h"
+
+namespace Korvane::Tool {
+namespace {
+
+nlohmann::ordered_json cell_json(const Cell& cell) {
+  if (const bool* const flag = std::get_if<bool>(&cell)) return *flag;
+  if (const auto* const number = std::get_if<long long>(&cell)) return *number;
+  if (const std::string* const text = std::get_if<std::string>(&cell)) return *text;
+  return nullptr;
+}
+
+}  // namespace
+
+void write_json(std::ostream& out, const Table& table) {
+  nlohmann::ordered_json list = nlohmann::ordered_json::array();
+  for (const std::vector<Cell>& row : table.rows) {
+    nlohmann::ordered_json object;
+    for (std::size_t i = 0; i < row.size(); ++i) object[table.columns[i]] = cell_json(row[i]);
+    list.push_back(std::move(object));
+  }
+  out << list.dump(2) << '\n';
+}
+
+}  // namespace Korvane::Tool
