@@ -20,9 +20,12 @@ struct KV_ENGINE_API VideoFrame {
   VideoFrame(MediaSampleSharedPtr sample, const ImageInfo& image, unsigned int number);
 
   VideoFrame(const VideoFrame& other);
-  VideoFrame(VideoFrame&& other);  // copies
   VideoFrame& operator=(const VideoFrame& other);
-  VideoFrame& operator=(VideoFrame&& other);  // copies
+
+  // These copy, and so may fail.
+  VideoFrame(VideoFrame&& other);             // NOLINT(performance-noexcept-move-constructor)
+  VideoFrame& operator=(VideoFrame&& other);  // NOLINT(performance-noexcept-move-constructor)
+
   ~VideoFrame();
 
   unsigned int number;  // given by the engine, which gives it its meaning
