@@ -1,6 +1,7 @@
 #include "media/umid.h"
 
 #include <array>
+#include <cwchar>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -23,7 +24,7 @@ constexpr std::array<signed char, 128> kDigitValues = [] {
 
 // Under every locale; -1 for a character that is no digit.
 constexpr int hexadecimal_value(wchar_t character) {
-  const auto code = static_cast<unsigned long>(character);
+  const std::wint_t code = std::char_traits<wchar_t>::to_int_type(character);
   return code < kDigitValues.size() ? kDigitValues[code] : -1;
 }
 
