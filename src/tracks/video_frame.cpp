@@ -4,6 +4,8 @@ namespace Korvane::Media {
 
 VideoFrame::VideoFrame() : number(0) {}
 
+// Published by value.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 VideoFrame::VideoFrame(MediaSampleSharedPtr new_sample, const ImageInfo& new_image,
                        unsigned int new_number)
     : number(new_number), image(new_image), sample(new_sample) {}
