@@ -17,7 +17,7 @@ struct KV_ENGINE_API VideoDescriptorFrame {
   VideoDescriptorFrame(const VideoDescriptorFrame& other);
   VideoDescriptorFrame& operator=(const VideoDescriptorFrame& other);
   VideoDescriptorFrame& operator=(VideoDescriptorFrame&& other) noexcept;  // copies
-  ~VideoDescriptorFrame();
+  ~VideoDescriptorFrame();  // NOLINT(performance-trivially-destructible): exported
 
   unsigned int number;                // given by the engine, which gives it its meaning
   const TrackDescriptor* descriptor;  // not owned; may be null
