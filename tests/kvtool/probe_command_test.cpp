@@ -153,8 +153,8 @@ TEST(ProbeCommand, TextListsEveryTimecodeOnFewLines) {
           "\n"
           "track of stream 0: picture, mpeg2video (4:2:2)\n"
           "  essence kind      EssenceMpeg2\n",
-      "\n\nstart timecode, stored as \"00:59:58;00\" (container)\n"
-      "  label                 00:59:58;00\n",
+      ("\n\nstart timecode, stored as \"00:59:58;00\" (container)\n"
+       "  label                 00:59:58;00\n"),
       "\nend timecode, of the last frame\n  label                 01:00:00;14\n",
       "\ntimecodes of 75 frames, in the headers of their groups of pictures\n",
       "\n       0  00:59:58;00  00:59:58;01  00:59:58;02  00:59:58;03  00:59:58;04  00:59:58;05\n",
