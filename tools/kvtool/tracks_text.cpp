@@ -38,8 +38,10 @@ std::string describe(const AudioInfo& audio) {
 // "1920 960 960".
 std::string plane_texts(const Layout& layout, unsigned int PlaneSize::*member) {
   std::string texts;
-  for (const PlaneSize& plane : layout.planes)
-    texts += (texts.empty() ? "" : " ") + std::to_string(plane.*member);
+  for (const PlaneSize& plane : layout.planes) {
+    if (!texts.empty()) texts += ' ';
+    texts += std::to_string(plane.*member);
+  }
   return texts;
 }
 
