@@ -2,17 +2,9 @@
 
 #include <string>
 
-#include "core/exception.h"
+#include "foundation/required_text.h"
 
 namespace Korvane::Media {
-namespace {
-
-const wchar_t* require_address(const wchar_t* text) {
-  exception_enforce(text != nullptr, InvalidArgument, "Text must not be null", true);
-  return text;
-}
-
-}  // namespace
 
 struct SdpConfigPrivate {
   SdpType type;
@@ -23,7 +15,7 @@ struct SdpConfigPrivate {
 SdpConfig::SdpConfig(SdpType type) : private_(new SdpConfigPrivate{type, {}, 0}) {}
 
 SdpConfig::SdpConfig(SdpType type, const wchar_t* ip_address, int port)
-    : private_(new SdpConfigPrivate{type, require_address(ip_address), port}) {}
+    : private_(new SdpConfigPrivate{type, required_text(ip_address), port}) {}
 
 SdpConfig::SdpConfig(const SdpConfig& other) = default;
 

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <new>
 #include <string>
 
 #include "kv_engine.h"
 #include "support/allocations.h"
 #include "support/raises.h"
+#include "support/without_memory.h"
 
 namespace Korvane::Media::AllocationTests {
 namespace {
@@ -21,29 +21,12 @@ const std::wstring& long_address() {
 
 const wchar_t* const kOldAddress = L"an address too long for a short buffer";
 
-// Runs `operation` on what `make` gives, with one more allocation granted each time, until it comes
-// to its end. After each failure what was made must be `as_before`, and nothing may leak.
+// Where memory runs out in `operation`, what was made must be `as_before`.
 template <typename Make, typename Operation, typename AsBefore>
 void expect_kept_without_memory(Make&& make, Operation&& operation, AsBefore&& as_before) {
-  bool done = false;
-  long failing = 1;
-  for (; !done && failing < 100; ++failing) {
-    SCOPED_TRACE("allocation " + std::to_string(failing));
-    const long live = Allocations::counters().live();
-    {
-      auto object = make();
-      try {
-        const Allocations::Failure failure(failing);
-        operation(object);
-        done = true;
-      } catch (const std::bad_alloc&) {
-        EXPECT_TRUE(as_before(object));
-      }
-    }
-    EXPECT_EQ(live, Allocations::counters().live());
-  }
-  EXPECT_TRUE(done);
-  EXPECT_GT(failing, 2) << "nothing was allocated";
+  const long failures = Allocations::run_with_ever_more_memory(
+      make, operation, [&](auto& object, bool done) { EXPECT_TRUE(done || as_before(object)); });
+  EXPECT_GT(failures, 0) << "nothing was allocated";
 }
 
 TEST(StreamAllocations, OneForEachRecord) {

@@ -4,18 +4,19 @@
 
 #include <functional>
 #include <memory>
-#include <new>
 #include <string>
 #include <vector>
 
 #include "media/track_descriptor_defaults.h"
 #include "media/track_descriptor_list.h"
 #include "support/allocations.h"
+#include "support/without_memory.h"
 #include "tracks/filled_descriptors.h"
 
 namespace Korvane::Media {
 namespace {
 
+using Allocations::done_without_memory;
 using Allocations::made_by;
 
 TEST(TrackAllocations, OneForEachRecordAndCell) {
@@ -82,18 +83,6 @@ const std::vector<Operation>& setters() {
        }},
   };
   return list;
-}
-
-// Whether `operation` came to its end with its `failing`-th allocation and all later ones failing.
-template <typename Operation>
-bool done_without_memory(Operation&& operation, long failing) {
-  const Allocations::Failure failure(failing);
-  try {
-    operation();
-  } catch (const std::bad_alloc&) {
-    return false;
-  }
-  return true;
 }
 
 TEST(TrackAllocations, WithoutMemoryNothingLeaksAndTheDescriptorIsAsBefore) {
