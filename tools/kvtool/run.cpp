@@ -10,6 +10,7 @@
 #include "media_inputs.h"
 #include "table_command.h"
 #include "timecode_command.h"
+#include "umid_command.h"
 
 namespace Korvane::Tool {
 namespace {
@@ -26,6 +27,7 @@ Examples:
   kvtool gaps list.txt --rate 25
   kvtool probe clip.mxf
   kvtool formats --width 3840 --rate 60000/1001
+  kvtool umid 060a2b340101010501010d1313000000a1b2c3d4e5f60718293a4b5c6d7e8f90
 
 "kvtool COMMAND --help" tells more of each command.)";
 
@@ -141,6 +143,26 @@ void add_table(CLI::App& app, const TableSubject& subject, TableRequest& request
   command.footer(subject.footer);
 }
 
+void add_umid(CLI::App& app, UmidOptions& options) {
+  CLI::App& command = *app.add_subcommand("umid", "Show what identifiers of material say");
+  command.add_option("TEXT", options.texts, "UMID in hexadecimal digits")
+      ->required()
+      ->type_name("");
+  command.add_flag("--json", options.json, "Print JSON");
+  command.footer(umid_footer());
+}
+
+// "a, b or c".
+std::string command_names(CLI::App& app) {
+  const std::vector<CLI::App*> commands = app.get_subcommands({});
+  std::string names;
+  for (const CLI::App* const command : commands) {
+    if (!names.empty()) names += command == commands.back() ? " or " : ", ";
+    names += command->get_name();
+  }
+  return names;
+}
+
 void say(Streams& streams, std::string line) {
   std::replace(line.begin(), line.end(), '\n', ' ');
   streams.err << "kvtool: " << line << '\n';
@@ -154,6 +176,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   TimecodeOptions timecode;
   GapsOptions gaps;
   ProbeOptions probe;
+  UmidOptions umid;
   add_timecode(app, timecode);
   add_gaps(app, gaps);
   add_probe(app, probe);
@@ -161,6 +184,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
                                           &essence_subject()};
   TableRequest table;
   for (const TableSubject* const subject : subjects) add_table(app, *subject, table);
+  add_umid(app, umid);
 
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
@@ -176,11 +200,10 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   if (app.got_subcommand("timecode")) return run_timecode(timecode, streams);
   if (app.got_subcommand("gaps")) return run_gaps(gaps, streams);
   if (app.got_subcommand("probe")) return run_probe(probe, streams);
+  if (app.got_subcommand("umid")) return run_umid(umid, streams);
   for (const TableSubject* const subject : subjects)
     if (app.got_subcommand(subject->command)) return run_table(*subject, table, streams);
-  throw UsageError(
-      "no command given (expected timecode, gaps, probe, formats, colorspaces or essence; see "
-      "kvtool --help)");
+  throw UsageError("no command given (expected " + command_names(app) + "; see kvtool --help)");
 }
 
 }  // namespace

@@ -14,6 +14,7 @@ nlohmann::ordered_json cell_json(const Cell& cell) {
 
 }  // namespace
 
+// Text of the user's that is not UTF-8 does not keep the rest from being read.
 void write_json(std::ostream& out, const Table& table) {
   nlohmann::ordered_json list = nlohmann::ordered_json::array();
   for (const std::vector<Cell>& row : table.rows) {
@@ -21,7 +22,7 @@ void write_json(std::ostream& out, const Table& table) {
     for (std::size_t i = 0; i < row.size(); ++i) object[table.columns[i]] = cell_json(row[i]);
     list.push_back(std::move(object));
   }
-  out << list.dump(2) << '\n';
+  out << list.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
 }
 
 }  // namespace Korvane::Tool
