@@ -13,8 +13,8 @@ struct Refusal {
 TEST(CommandLine, WrongUsageIsOneLineAndCode2) {
   const Refusal refusals[] = {
       {{},
-       "no command given (expected timecode, gaps, probe, formats, colorspaces, essence or umid; "
-       "see kvtool --help)"},
+       "no command given (expected timecode, gaps, probe, formats, colorspaces, essence, umid or "
+       "multiviewer; see kvtool --help)"},
       {{"frob"}, "The following argument was not expected: frob (see kvtool --help)"},
       {{"timecode", "1", "--rate", "25", "--frob"},
        "The following argument was not expected: --frob (see kvtool --help)"},
@@ -30,6 +30,7 @@ TEST(CommandLine, WrongUsageIsOneLineAndCode2) {
       {{"gaps", "list.txt"}, "gaps --input text needs --rate (such as --rate 25)"},
       {{"probe"}, "FILE is required (see kvtool --help)"},
       {{"umid"}, "TEXT is required (see kvtool --help)"},
+      {{"multiviewer"}, "LAYOUT is required (see kvtool --help)"},
       {{"formats", "--json", "--csv"}, "--csv excludes --json (see kvtool --help)"},
       {{"essence", "--family"}, "--family: 1 required FAMILY missing (see kvtool --help)"},
   };
@@ -66,7 +67,8 @@ TEST(CommandLine, EveryCommandHasHelpWithExamples) {
                                                {"formats", "--help"},
                                                {"colorspaces", "--help"},
                                                {"essence", "--help"},
-                                               {"umid", "--help"}}) {
+                                               {"umid", "--help"},
+                                               {"multiviewer", "--help"}}) {
     SCOPED_TRACE(args.front());
     const ToolResult result = run_tool(args);
     EXPECT_EQ(0, result.code);

@@ -8,6 +8,7 @@
 #include "failure.h"
 #include "gaps_command.h"
 #include "media_inputs.h"
+#include "multiviewer_command.h"
 #include "table_command.h"
 #include "timecode_command.h"
 #include "umid_command.h"
@@ -152,6 +153,15 @@ void add_umid(CLI::App& app, UmidOptions& options) {
   command.footer(umid_footer());
 }
 
+void add_multiviewer(CLI::App& app, MultiviewerOptions& options) {
+  CLI::App& command = *app.add_subcommand("multiviewer", "Check and draw a multiviewer layout");
+  command.add_option("LAYOUT", options.file, "Layout in JSON; - is standard input")
+      ->required()
+      ->type_name("");
+  command.add_option("--svg", options.svg, "Draw it into this file, too")->type_name("FILE");
+  command.footer(multiviewer_footer());
+}
+
 // "a, b or c".
 std::string command_names(CLI::App& app) {
   const std::vector<CLI::App*> commands = app.get_subcommands({});
@@ -177,6 +187,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   GapsOptions gaps;
   ProbeOptions probe;
   UmidOptions umid;
+  MultiviewerOptions multiviewer;
   add_timecode(app, timecode);
   add_gaps(app, gaps);
   add_probe(app, probe);
@@ -185,6 +196,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   TableRequest table;
   for (const TableSubject* const subject : subjects) add_table(app, *subject, table);
   add_umid(app, umid);
+  add_multiviewer(app, multiviewer);
 
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
@@ -201,6 +213,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   if (app.got_subcommand("gaps")) return run_gaps(gaps, streams);
   if (app.got_subcommand("probe")) return run_probe(probe, streams);
   if (app.got_subcommand("umid")) return run_umid(umid, streams);
+  if (app.got_subcommand("multiviewer")) return run_multiviewer(multiviewer, streams);
   for (const TableSubject* const subject : subjects)
     if (app.got_subcommand(subject->command)) return run_table(*subject, table, streams);
   throw UsageError("no command given (expected " + command_names(app) + "; see kvtool --help)");
