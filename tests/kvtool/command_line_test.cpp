@@ -13,8 +13,8 @@ struct Refusal {
 TEST(CommandLine, WrongUsageIsOneLineAndCode2) {
   const Refusal refusals[] = {
       {{},
-       "no command given (expected timecode, gaps, probe, formats, colorspaces, essence, umid or "
-       "multiviewer; see kvtool --help)"},
+       "no command given (expected timecode, gaps, probe, formats, colorspaces, essence, umid, "
+       "multiviewer or sdp; see kvtool --help)"},
       {{"frob"}, "The following argument was not expected: frob (see kvtool --help)"},
       {{"timecode", "1", "--rate", "25", "--frob"},
        "The following argument was not expected: --frob (see kvtool --help)"},
@@ -31,6 +31,7 @@ TEST(CommandLine, WrongUsageIsOneLineAndCode2) {
       {{"probe"}, "FILE is required (see kvtool --help)"},
       {{"umid"}, "TEXT is required (see kvtool --help)"},
       {{"multiviewer"}, "LAYOUT is required (see kvtool --help)"},
+      {{"sdp"}, "FILE is required (see kvtool --help)"},
       {{"formats", "--json", "--csv"}, "--csv excludes --json (see kvtool --help)"},
       {{"essence", "--family"}, "--family: 1 required FAMILY missing (see kvtool --help)"},
   };
@@ -68,7 +69,8 @@ TEST(CommandLine, EveryCommandHasHelpWithExamples) {
                                                {"colorspaces", "--help"},
                                                {"essence", "--help"},
                                                {"umid", "--help"},
-                                               {"multiviewer", "--help"}}) {
+                                               {"multiviewer", "--help"},
+                                               {"sdp", "--help"}}) {
     SCOPED_TRACE(args.front());
     const ToolResult result = run_tool(args);
     EXPECT_EQ(0, result.code);

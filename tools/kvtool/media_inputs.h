@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "input.h"
 #include "rate.h"
@@ -19,6 +20,11 @@ struct ProbeOptions {
   bool json = false;
 };
 
+struct SdpOptions {
+  std::vector<std::string> files;
+  bool json = false;
+};
+
 // The timecodes that the frames of the first video stream carry. A `rate` must be the file's.
 std::unique_ptr<TimecodeSource> open_media_timecodes(Input& input, const std::optional<Rate>& rate);
 
@@ -26,6 +32,7 @@ std::unique_ptr<TimecodeSource> open_media_timecodes(Input& input, const std::op
 std::unique_ptr<TimecodeSource> open_ltc_timecodes(Input& input, const Rate& rate);
 
 int run_probe(const ProbeOptions& options, Streams& streams);
+int run_sdp(const SdpOptions& options, Streams& streams);
 
 }  // namespace Korvane::Tool
 #endif  // KV_TOOLS_KVTOOL_MEDIA_INPUTS_H

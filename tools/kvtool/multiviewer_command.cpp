@@ -15,19 +15,6 @@ namespace {
 constexpr std::size_t kLongestLayout = 4 * 1024 * 1024;
 constexpr std::size_t kMostTiles = 1000;
 
-std::string read_all(Input& input) {
-  std::string text;
-  char block[65536];
-  std::istream& in = input.stream();
-  while (in.read(block, sizeof block) || in.gcount() > 0) {
-    text.append(block, static_cast<std::size_t>(in.gcount()));
-    if (text.size() > kLongestLayout)
-      throw InputError(printable_name(input.name()) + ": too long (expected a layout of at most " +
-                       std::to_string(kLongestLayout) + " bytes)");
-  }
-  return text;
-}
-
 Table tiles_of(const MultiviewerLayout& layout) {
   Table table{{"tile", "id", "channel_id", "width", "height", "x_offset", "y_offset", "use_audio"},
               {}};
@@ -71,7 +58,8 @@ Examples:
 
 int run_multiviewer(const MultiviewerOptions& options, Streams& streams) {
   Input input(options.file, streams.in);
-  const MultiviewerLayout layout = read_layout(JsonText(input.name(), read_all(input)));
+  const MultiviewerLayout layout =
+      read_layout(JsonText(input.name(), input.read_all(kLongestLayout, "a layout")));
   // Checking every pair takes its time.
   if (layout.sources.size() > kMostTiles)
     throw InputError(printable_name(input.name()) + ": " + std::to_string(layout.sources.size()) +

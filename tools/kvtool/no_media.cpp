@@ -22,4 +22,6 @@ std::unique_ptr<TimecodeSource> open_ltc_timecodes(Input&, const Rate&) {
 
 int run_probe(const ProbeOptions&, Streams&) { refuse("probe"); }
 
+int run_sdp(const SdpOptions&, Streams&) { refuse("sdp"); }
+
 }  // namespace Korvane::Tool

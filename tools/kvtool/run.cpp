@@ -88,6 +88,20 @@ image_info, layouts; of sound audio_info), frames (null when none are read), tim
 differences with frame, expected, actual, frames), start_difference (null, or: container,
 first_frame). All of it stands in the schema share/kv_Engine_r/probe.schema.json.)";
 
+constexpr const char* kSdpFooter =
+    R"(Reads the description of a stream whose essences travel apart (SMPTE ST 2110) from one
+file, or from one for each essence, and lists where its video, audio and ancillary data are
+sent. Essences are told by their encodings: raw and jxsv are video; L16, L24 and AM824
+audio; smpte291 ancillary data. Of essences that are sent over two paths (a=group:DUP) the
+first path is taken.
+
+Examples:
+  kvtool sdp stream.sdp
+  kvtool sdp video.sdp audio.sdp anc.sdp --json
+
+JSON: a list of three with the keys essence (video, audio, anc), and ip_address, port,
+encoding, file, line, which are null for an essence that is not described.)";
+
 void add_timecode(CLI::App& app, TimecodeOptions& options) {
   CLI::App& command = *app.add_subcommand("timecode", "Show one timecode in every form");
   command.add_option("EXPR", options.expression, "Label, frame count, word or clock time")
@@ -162,6 +176,15 @@ void add_multiviewer(CLI::App& app, MultiviewerOptions& options) {
   command.footer(multiviewer_footer());
 }
 
+void add_sdp(CLI::App& app, SdpOptions& options) {
+  CLI::App& command = *app.add_subcommand("sdp", "Show the endpoints of ST 2110 descriptions");
+  command.add_option("FILE", options.files, "Session description; - is standard input")
+      ->required()
+      ->type_name("");
+  command.add_flag("--json", options.json, "Print JSON");
+  command.footer(kSdpFooter);
+}
+
 // "a, b or c".
 std::string command_names(CLI::App& app) {
   const std::vector<CLI::App*> commands = app.get_subcommands({});
@@ -188,6 +211,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   ProbeOptions probe;
   UmidOptions umid;
   MultiviewerOptions multiviewer;
+  SdpOptions sdp;
   add_timecode(app, timecode);
   add_gaps(app, gaps);
   add_probe(app, probe);
@@ -197,6 +221,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   for (const TableSubject* const subject : subjects) add_table(app, *subject, table);
   add_umid(app, umid);
   add_multiviewer(app, multiviewer);
+  add_sdp(app, sdp);
 
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
@@ -214,6 +239,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   if (app.got_subcommand("probe")) return run_probe(probe, streams);
   if (app.got_subcommand("umid")) return run_umid(umid, streams);
   if (app.got_subcommand("multiviewer")) return run_multiviewer(multiviewer, streams);
+  if (app.got_subcommand("sdp")) return run_sdp(sdp, streams);
   for (const TableSubject* const subject : subjects)
     if (app.got_subcommand(subject->command)) return run_table(*subject, table, streams);
   throw UsageError("no command given (expected " + command_names(app) + "; see kvtool --help)");
