@@ -70,8 +70,9 @@ position in "line", "sample" or "frame", expected, actual, and frames: how far a
 lies after expected).)";
 
 constexpr const char* kProbeFooter =
-    R"(Describes every stream of the file as a track, with what the file itself states, and the
-raw layouts that its pictures could be carried in; reads the timecodes of every frame of
+    R"(Shows the UMIDs of the material, file and tape packages of an MXF file and the name of the
+reel, and describes every stream as a track, with what the file itself states, and the raw
+layouts that its pictures could be carried in; reads the timecodes of every frame of
 the first video stream. Exit code 1 when a video has no timecode, is shorter than it says,
 or when a timecode does not follow from the one before; a file of sound alone is fine.
 
@@ -80,7 +81,8 @@ Examples:
   kvtool probe clip.mov --json
 
 JSON keys: file, container (format, name), video (a list: stream, codec, profile, width,
-height, frame_rate, timecode_rate), tracks (a list: stream, kind, codec, profile,
+height, frame_rate, timecode_rate), source (null, or: master_mob_id, source_mob_id,
+tape_mob_id, tape_name, null in it for what the file does not state), tracks (a list: stream, kind, codec, profile,
 descriptor, null in it for what the file does not state; of pictures video_format,
 image_info, layouts; of sound audio_info), frames (null when none are read), timecode
 (null, or: stored with text and where, start, end, both with the keys of "kvtool timecode
