@@ -14,7 +14,7 @@ TEST(CommandLine, WrongUsageIsOneLineAndCode2) {
   const Refusal refusals[] = {
       {{},
        "no command given (expected timecode, gaps, probe, formats, colorspaces, essence, umid, "
-       "multiviewer or sdp; see kvtool --help)"},
+       "multiviewer, sdp or srt; see kvtool --help)"},
       {{"frob"}, "The following argument was not expected: frob (see kvtool --help)"},
       {{"timecode", "1", "--rate", "25", "--frob"},
        "The following argument was not expected: --frob (see kvtool --help)"},
@@ -70,7 +70,8 @@ TEST(CommandLine, EveryCommandHasHelpWithExamples) {
                                                {"essence", "--help"},
                                                {"umid", "--help"},
                                                {"multiviewer", "--help"},
-                                               {"sdp", "--help"}}) {
+                                               {"sdp", "--help"},
+                                               {"srt", "--help"}}) {
     SCOPED_TRACE(args.front());
     const ToolResult result = run_tool(args);
     EXPECT_EQ(0, result.code);

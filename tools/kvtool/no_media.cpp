@@ -24,4 +24,6 @@ int run_probe(const ProbeOptions&, Streams&) { refuse("probe"); }
 
 int run_sdp(const SdpOptions&, Streams&) { refuse("sdp"); }
 
+int run_srt(const SrtOptions&, Streams&) { refuse("srt"); }
+
 }  // namespace Korvane::Tool

@@ -104,6 +104,26 @@ Examples:
 JSON: a list of three with the keys essence (video, audio, anc), and ip_address, port,
 encoding, file, line, which are null for an essence that is not described.)";
 
+constexpr const char* kSrtFooter =
+    R"(Receives an SRT stream, drops what comes, and shows the protocol's own statistics of the
+connection: a line for each sample, or with --csv and --json every field when it is done.
+The exit code is 1 when the connection ends before N samples, and without --count always
+when it ends. Samples are kept for two days at most.
+
+Fields have libsrt's counters, all 35 of them. Since the sample before: pkt_* and
+mbps_send_rate, snd_duration (microseconds), bitrate (megabits per second received). Since
+the connection began: timestamp (milliseconds), packets_sent, packets_received,
+packets_lost (of the receiver), packets_retransmitted (of the sender). As they are now:
+ms_rtt, latency (of the receiver, milliseconds), pkt_send_period (microseconds), windows,
+bandwidths and buffers. As nothing is sent, what only a sender counts is 0: packets_sent,
+packets_retransmitted, pkt_snd_loss, pkt_retrans, pkt_recv_ack, pkt_recv_nak,
+mbps_send_rate, snd_duration, pkt_snd_drop, pkt_snd_buffer, ms_snd_buffer.
+
+Examples:
+  kvtool srt --connect 192.168.1.20:9000
+  kvtool srt --listen 9000 --passphrase-file secret.txt --period 1
+  kvtool srt --connect encoder:9000 --count 12 --csv > hour.csv)";
+
 void add_timecode(CLI::App& app, TimecodeOptions& options) {
   CLI::App& command = *app.add_subcommand("timecode", "Show one timecode in every form");
   command.add_option("EXPR", options.expression, "Label, frame count, word or clock time")
@@ -187,6 +207,30 @@ void add_sdp(CLI::App& app, SdpOptions& options) {
   command.footer(kSdpFooter);
 }
 
+void add_srt(CLI::App& app, SrtOptions& options) {
+  CLI::App& command = *app.add_subcommand("srt", "Show the statistics of an SRT connection");
+  CLI::Option* const connect =
+      command.add_option("--connect", options.connect, "Call the sender there");
+  connect->type_name("HOST:PORT");
+  command.add_option("--listen", options.listen, "Wait for a sender there")
+      ->type_name("PORT")
+      ->excludes(connect);
+  command.add_option("--passphrase-file", options.passphrase_file, "Decrypt by its first line")
+      ->type_name("FILE");
+  command.add_option("--period", options.period, "Seconds between samples, 5 by default")
+      ->type_name("N")
+      ->check(CLI::Range(1U, 86400U));
+  command.add_option("--count", options.count, "End after N samples")
+      ->type_name("N")
+      ->check(CLI::Range(1U, 172800U));
+  command.add_option("--wait", options.wait, "Seconds to wait for the connection, 30 by default")
+      ->type_name("N")
+      ->check(CLI::Range(1U, 86400U));
+  CLI::Option* const csv = command.add_flag("--csv", options.csv, "Print comma-separated values");
+  command.add_flag("--json", options.json, "Print JSON")->excludes(csv);
+  command.footer(kSrtFooter);
+}
+
 // "a, b or c".
 std::string command_names(CLI::App& app) {
   const std::vector<CLI::App*> commands = app.get_subcommands({});
@@ -214,6 +258,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   UmidOptions umid;
   MultiviewerOptions multiviewer;
   SdpOptions sdp;
+  SrtOptions srt;
   add_timecode(app, timecode);
   add_gaps(app, gaps);
   add_probe(app, probe);
@@ -224,6 +269,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   add_umid(app, umid);
   add_multiviewer(app, multiviewer);
   add_sdp(app, sdp);
+  add_srt(app, srt);
 
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
@@ -242,6 +288,7 @@ int parse_and_run(const std::vector<std::string>& args, Streams& streams) {
   if (app.got_subcommand("umid")) return run_umid(umid, streams);
   if (app.got_subcommand("multiviewer")) return run_multiviewer(multiviewer, streams);
   if (app.got_subcommand("sdp")) return run_sdp(sdp, streams);
+  if (app.got_subcommand("srt")) return run_srt(srt, streams);
   for (const TableSubject* const subject : subjects)
     if (app.got_subcommand(subject->command)) return run_table(*subject, table, streams);
   throw UsageError("no command given (expected " + command_names(app) + "; see kvtool --help)");

@@ -8,6 +8,7 @@ namespace {
 nlohmann::ordered_json cell_json(const Cell& cell) {
   if (const bool* const flag = std::get_if<bool>(&cell)) return *flag;
   if (const auto* const number = std::get_if<long long>(&cell)) return *number;
+  if (const double* const number = std::get_if<double>(&cell)) return *number;
   if (const std::string* const text = std::get_if<std::string>(&cell)) return *text;
   return nullptr;
 }
