@@ -12,7 +12,7 @@
 namespace Korvane::Tool {
 namespace {
 
-constexpr std::size_t kLongestLayout = 4 * 1024 * 1024;
+constexpr std::size_t kLongestLayout = 4UL * 1024 * 1024;
 constexpr std::size_t kMostTiles = 1000;
 
 Table tiles_of(const MultiviewerLayout& layout) {

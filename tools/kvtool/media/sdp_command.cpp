@@ -13,7 +13,7 @@
 namespace Korvane::Tool {
 namespace {
 
-constexpr std::size_t kLongestDescription = 1024 * 1024;
+constexpr std::size_t kLongestDescription = 1024UL * 1024;
 constexpr std::size_t kEssenceCount = 3;
 constexpr const char* kEssenceNames[kEssenceCount] = {"video", "audio", "anc"};
 
