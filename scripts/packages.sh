@@ -44,8 +44,7 @@ need() {
 
 # What every build needs, and what the parts need on top.
 packages_build=(g++ cmake ninja-build pkg-config libboost-dev)
-packages_tools=(libavformat-dev libavcodec-dev libavutil-dev libltc-dev libcli11-dev
-  nlohmann-json3-dev ffmpeg)
-packages_tests=(libgtest-dev librapidcheck-dev libgstreamer-plugins-base1.0-dev clang
-  python3-jsonschema)
+packages_tools=(libavformat-dev libavcodec-dev libavutil-dev libltc-dev
+  libgstreamer-plugins-base1.0-dev libsrt-gnutls-dev libcli11-dev nlohmann-json3-dev ffmpeg)
+packages_tests=(libgtest-dev librapidcheck-dev clang python3-jsonschema)
 packages_checks=(git clang-format clang-tidy googletest g++-mingw-w64-x86-64-posix wine64)

@@ -13,8 +13,8 @@ struct Refusal {
 TEST(CommandLine, WrongUsageIsOneLineAndCode2) {
   const Refusal refusals[] = {
       {{},
-       "no command given (expected timecode, gaps, probe, formats, colorspaces or essence; see "
-       "kvtool --help)"},
+       "no command given (expected timecode, gaps, probe, formats, colorspaces, essence, umid, "
+       "multiviewer, sdp or srt; see kvtool --help)"},
       {{"frob"}, "The following argument was not expected: frob (see kvtool --help)"},
       {{"timecode", "1", "--rate", "25", "--frob"},
        "The following argument was not expected: --frob (see kvtool --help)"},
@@ -29,6 +29,9 @@ TEST(CommandLine, WrongUsageIsOneLineAndCode2) {
        "--input: frob not in {text,st12,st12-64,ltc,media} (see kvtool --help)"},
       {{"gaps", "list.txt"}, "gaps --input text needs --rate (such as --rate 25)"},
       {{"probe"}, "FILE is required (see kvtool --help)"},
+      {{"umid"}, "TEXT is required (see kvtool --help)"},
+      {{"multiviewer"}, "LAYOUT is required (see kvtool --help)"},
+      {{"sdp"}, "FILE is required (see kvtool --help)"},
       {{"formats", "--json", "--csv"}, "--csv excludes --json (see kvtool --help)"},
       {{"essence", "--family"}, "--family: 1 required FAMILY missing (see kvtool --help)"},
   };
@@ -64,7 +67,11 @@ TEST(CommandLine, EveryCommandHasHelpWithExamples) {
                                                {"probe", "--help"},
                                                {"formats", "--help"},
                                                {"colorspaces", "--help"},
-                                               {"essence", "--help"}}) {
+                                               {"essence", "--help"},
+                                               {"umid", "--help"},
+                                               {"multiviewer", "--help"},
+                                               {"sdp", "--help"},
+                                               {"srt", "--help"}}) {
     SCOPED_TRACE(args.front());
     const ToolResult result = run_tool(args);
     EXPECT_EQ(0, result.code);

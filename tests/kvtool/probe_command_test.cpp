@@ -151,8 +151,10 @@ TEST(ProbeCommand, TextListsEveryTimecodeOnFewLines) {
           "rate 30\n"
           "frames          75\n"
           "\n"
-          "track of stream 0: picture, mpeg2video (4:2:2)\n"
-          "  essence kind      EssenceMpeg2\n",
+          "source\n"
+          "  master mob id     060a2b340101010501010d0013000000",
+      ("\n\ntrack of stream 0: picture, mpeg2video (4:2:2)\n"
+       "  essence kind      EssenceMpeg2\n"),
       ("\n\nstart timecode, stored as \"00:59:58;00\" (container)\n"
        "  label                 00:59:58;00\n"),
       "\nend timecode, of the last frame\n  label                 01:00:00;14\n",

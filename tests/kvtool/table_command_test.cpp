@@ -289,6 +289,19 @@ TEST(TableWriters, CsvQuotesWhatNeedsIt) {
   EXPECT_EQ("a,b,c,d\n\"x,y\",\"say \"\"so\"\"\",\"two\nlines\",plain\n", out.str());
 }
 
+TEST(TableWriters, NumbersWithFractionsKeepTheirDigits) {
+  const Table table{{"rate"}, {{Cell(0.1)}, {Cell(2.5)}}};
+  std::ostringstream text;
+  std::ostringstream csv;
+  std::ostringstream json;
+  write_text(text, table);
+  write_csv(csv, table);
+  write_json(json, table);
+  EXPECT_EQ("rate\n 0.1\n 2.5\n", text.str());
+  EXPECT_EQ("rate\n0.1\n2.5\n", csv.str());
+  EXPECT_EQ("[\n  {\n    \"rate\": 0.1\n  },\n  {\n    \"rate\": 2.5\n  }\n]\n", json.str());
+}
+
 TEST(TableWriters, JsonOfNoRowsIsAnEmptyList) {
   expect_printed("[]\n", {"formats", "--width", "1", "--json"});
 }

@@ -26,6 +26,18 @@ Input::Input(const std::string& path, std::istream& standard_input)
   if (!file_.is_open()) refuse(path, "cannot be opened");
 }
 
+std::string Input::read_all(std::size_t most, const std::string& what) {
+  std::string text;
+  char block[16384];
+  while (stream().read(block, sizeof block) || stream().gcount() > 0) {
+    text.append(block, static_cast<std::size_t>(stream().gcount()));
+    if (text.size() > most)
+      throw InputError(printable_name(name_) + ": too long (expected " + what + " of at most " +
+                       std::to_string(most) + " bytes)");
+  }
+  return text;
+}
+
 std::optional<unsigned long long> Input::size() const {
   if (is_standard_input()) return std::nullopt;
   std::error_code error;

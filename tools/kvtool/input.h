@@ -29,6 +29,9 @@ class Input {
     if (reached_) reached_();
   }
 
+  // Raises InputError when there is more than `most` bytes; `what` was expected then.
+  std::string read_all(std::size_t most, const std::string& what);
+
   // In bytes; unknown for standard input and for what is no regular file.
   std::optional<unsigned long long> size() const;
 

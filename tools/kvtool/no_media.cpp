@@ -22,4 +22,8 @@ std::unique_ptr<TimecodeSource> open_ltc_timecodes(Input&, const Rate&) {
 
 int run_probe(const ProbeOptions&, Streams&) { refuse("probe"); }
 
+int run_sdp(const SdpOptions&, Streams&) { refuse("sdp"); }
+
+int run_srt(const SrtOptions&, Streams&) { refuse("srt"); }
+
 }  // namespace Korvane::Tool

@@ -1,6 +1,7 @@
 #include "table.h"
 
 #include <algorithm>
+#include <charconv>
 
 namespace Korvane::Tool {
 namespace {
@@ -12,7 +13,9 @@ std::string heading(std::string column) {
   return column;
 }
 
-bool holds_number(const Cell& cell) { return std::holds_alternative<long long>(cell); }
+bool holds_number(const Cell& cell) {
+  return std::holds_alternative<Integer>(cell) || std::holds_alternative<double>(cell);
+}
 
 struct ColumnLayout {
   std::size_t width;
@@ -64,6 +67,10 @@ void write_csv_line(std::ostream& out, const Values& values, const Text& text) {
 std::string text_of(const Cell& cell) {
   if (const bool* const flag = std::get_if<bool>(&cell)) return *flag ? "yes" : "no";
   if (const auto* const number = std::get_if<long long>(&cell)) return std::to_string(*number);
+  if (const double* const number = std::get_if<double>(&cell)) {
+    char digits[32];
+    return {digits, std::to_chars(digits, digits + sizeof digits, *number).ptr};
+  }
   const std::string* const text = std::get_if<std::string>(&cell);
   return text != nullptr ? *text : "-";
 }

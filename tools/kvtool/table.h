@@ -13,14 +13,15 @@ namespace Korvane::Tool {
 using Integer = long long;
 
 // Empty where there is no value.
-using Cell = std::variant<std::monostate, bool, Integer, std::string>;
+using Cell = std::variant<std::monostate, bool, Integer, double, std::string>;
 
 struct Table {
   std::vector<std::string> columns;     // as JSON keys: "edit_rate"
   std::vector<std::vector<Cell>> rows;  // each as long as `columns`
 };
 
-// "yes", "1920", "16/9"; "-" for no value.
+// "yes", "1920", "0.25", "16/9"; "-" for no value. A double has as many digits as tell it from
+// others.
 std::string text_of(const Cell& cell);
 
 // Headings, then a line a row, each begun with `indent`; numbers stand to the right.

@@ -14,7 +14,7 @@ std::string readable(std::string name) {
   return name;
 }
 
-std::string in_quotes(const std::string& text) { return '"' + printable_name(text) + '"'; }
+std::string quoted_name(const std::string& text) { return '"' + printable_name(text) + '"'; }
 
 void write_line(std::ostream& out, std::string name, const std::string& value) {
   constexpr std::size_t kColumn = 18;
@@ -67,7 +67,7 @@ void write_track(std::ostream& out, const TrackSource& source,
     if (!std::holds_alternative<std::monostate>(field.value))
       write_line(out, readable(field.name), text_of(field.value));
   for (const std::string& key : source.keys)
-    write_line(out, in_quotes(key), in_quotes(descriptor.get_key_value(key.c_str())));
+    write_line(out, quoted_name(key), quoted_name(descriptor.get_key_value(key.c_str())));
 
   const TrackConclusions conclusions = conclusions_of(descriptor);
   if (conclusions.video_format) write_line(out, "video format", name_of(*conclusions.video_format));

@@ -20,6 +20,14 @@ Json video_json(const VideoTrack& track) {
   return json;
 }
 
+Json source_json(const ProbeReport& report) {
+  if (report.source == nullptr) return nullptr;
+  Json json;
+  for (const SourceText& text : texts_of(*report.source))
+    json[text.name] = text.value ? Json(*text.value) : Json();
+  return json;
+}
+
 Json timecode_json(const ProbeReport& report) {
   if (!report.start) return nullptr;
   Json json = {{"stored", {{"text", report.start->text}, {"where", report.start->where}}},
@@ -69,6 +77,7 @@ Json report_json(const ProbeReport& report) {
   return {{"file", report.file},
           {"container", {{"format", report.format}, {"name", report.format_name}}},
           {"video", std::move(video)},
+          {"source", source_json(report)},
           {"tracks", to_json(report.tracks)},
           {"frames", report.frames ? Json(*report.frames) : Json()},
           {"timecode", timecode_json(report)},

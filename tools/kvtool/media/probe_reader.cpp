@@ -4,6 +4,7 @@
 #include "failure.h"
 #include "label.h"
 #include "media/probe_report.h"
+#include "media/source_reader.h"
 #include "media/track_reader.h"
 #include "printable.h"
 #include "progress.h"
@@ -140,6 +141,7 @@ ProbeReport read_probe_report(const std::string& path, Streams& streams) {
   report.file = input.name();
   report.format = file.format().iformat->name;
   report.format_name = file.format().iformat->long_name;
+  report.source = read_source(file.format());
   report.tracks = read_tracks(file);
   for (AVStream* const stream : std::span(file.format().streams, file.format().nb_streams))
     if (stream->codecpar->codec_type == AVMEDIA_TYPE_VIDEO && !is_cover_picture(*stream))

@@ -3,6 +3,7 @@
 #ifndef KV_TOOLS_KVTOOL_MEDIA_PROBE_REPORT_H
 #define KV_TOOLS_KVTOOL_MEDIA_PROBE_REPORT_H
 
+#include <memory>
 #include <optional>
 #include <ostream>
 #include <string>
@@ -10,6 +11,7 @@
 
 #include "difference_log.h"
 #include "media/frame_timecodes.h"
+#include "media/source_info.h"
 #include "media/video_track.h"
 #include "streams.h"
 #include "timecode/timecode.h"
@@ -50,6 +52,7 @@ struct StartDifference {
 struct ProbeReport {
   std::string file;
   std::string format, format_name;
+  std::unique_ptr<Media::SourceInfo> source;  // null where the file has no identifiers
   TrackReport tracks;
   std::vector<VideoTrack> video;
   // What keeps the timecodes of a video from being shown: the line for the user.
@@ -68,6 +71,14 @@ struct ProbeReport {
 
 // Raises InputError.
 ProbeReport read_probe_report(const std::string& path, Streams& streams);
+
+struct SourceText {
+  const char* name;  // as a JSON key
+  std::optional<std::string> value;
+};
+
+// Every field of the source: UMIDs in digits, the name in UTF-8.
+std::vector<SourceText> texts_of(const Media::SourceInfo& source);
 
 void write_text(std::ostream& out, const ProbeReport& report);
 void write_json(std::ostream& out, const ProbeReport& report);

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <iomanip>
 
 #include "label.h"
@@ -19,6 +20,17 @@ void write_video(std::ostream& out, const VideoTrack& track) {
     out << "no timecode rate\n";
   else
     out << "timecode rate " << track.timecode_rate << '\n';
+}
+
+void write_source(std::ostream& out, const Media::SourceInfo& source) {
+  out << "\nsource\n";
+  for (const SourceText& text : texts_of(source)) {
+    if (!text.value) continue;
+    std::string name = text.name;
+    std::replace(name.begin(), name.end(), '_', ' ');
+    out << "  " << std::left << std::setw(18) << name << std::right << printable_name(*text.value)
+        << '\n';
+  }
 }
 
 void write_start_and_end(std::ostream& out, const ProbeReport& report) {
@@ -73,6 +85,7 @@ void write_text(std::ostream& out, const ProbeReport& report) {
   out << "container       " << report.format_name << '\n';
   for (const VideoTrack& track : report.video) write_video(out, track);
   if (report.frames) out << "frames          " << *report.frames << '\n';
+  if (report.source != nullptr) write_source(out, *report.source);
   write_text(out, report.tracks);
   if (report.frames) write_start_and_end(out, report);
   if (report.frame_timecodes) {
