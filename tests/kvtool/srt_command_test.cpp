@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <chrono>
 #include <nlohmann/json.hpp>
 #include <thread>
 
@@ -132,7 +133,8 @@ constexpr const char* kPassphrase = "a secret of the test";
 // Listens on a port of its own and sends packets of 1316 bytes to whoever comes.
 class Sender {
  public:
-  explicit Sender(bool encrypted) : listener_(srt_create_socket()) {
+  explicit Sender(bool encrypted, std::chrono::milliseconds duration = std::chrono::minutes(1))
+      : listener_(srt_create_socket()), duration_(duration) {
     if (encrypted)
       srt_setsockflag(listener_, SRTO_PASSPHRASE, kPassphrase,
                       static_cast<int>(std::string(kPassphrase).size()));
@@ -150,12 +152,12 @@ class Sender {
 
   std::string place() const { return "127.0.0.1:" + std::to_string(port_); }
 
-  // What its own counters say at its end.
-  CBytePerfMon stop() {
+  // How many packets it has given away at its end.
+  unsigned int stop() {
     done_ = true;
     srt_close(listener_);
     if (thread_.joinable()) thread_.join();
-    return counters_;
+    return offered_;
   }
 
  private:
@@ -163,28 +165,31 @@ class Sender {
     const SRTSOCKET peer = srt_accept(listener_, nullptr, nullptr);
     if (peer == SRT_INVALID_SOCK) return;
     const std::string packet(1316, 'x');
-    while (!done_ && srt_sendmsg2(peer, packet.data(), 1316, nullptr) >= 0) {
-      srt_bstats(peer, &counters_, 0);
+    const auto end = std::chrono::steady_clock::now() + duration_;
+    while (!done_ && std::chrono::steady_clock::now() < end) {
+      ++offered_;
+      if (srt_sendmsg2(peer, packet.data(), 1316, nullptr) < 0) break;
       std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     srt_close(peer);
   }
 
   SRTSOCKET listener_;
+  std::chrono::milliseconds duration_;
   int port_ = 0;
   std::atomic<bool> done_ = false;
-  CBytePerfMon counters_{};
+  unsigned int offered_ = 0;
   std::thread thread_;
 };
 
-void expect_traffic(const nlohmann::json& samples, const CBytePerfMon& sent) {
+void expect_traffic(const nlohmann::json& samples, unsigned int offered) {
   ASSERT_EQ(2U, samples.size());
   const nlohmann::json& first = samples[0];
   const nlohmann::json& last = samples[1];
   EXPECT_EQ(35U, last.size());
   EXPECT_GT(first["packets_received"], 0);
   EXPECT_GT(last["packets_received"], first["packets_received"]);
-  EXPECT_LE(last["packets_received"], sent.pktSentTotal);
+  EXPECT_LE(last["packets_received"], offered);
   EXPECT_GE(last["timestamp"], first["timestamp"].get<int>() + 900);
   EXPECT_EQ(0, last["packets_sent"]);
   EXPECT_EQ(0, last["pkt_rcv_undecrypt"]);
@@ -199,9 +204,9 @@ TEST(SrtCommand, CountsWhatASenderSends) {
   Sender sender(false);
   const ToolResult result =
       run_tool({"srt", "--connect", sender.place(), "--period", "1", "--count", "2", "--json"});
-  const CBytePerfMon sent = sender.stop();
+  const unsigned int offered = sender.stop();
   EXPECT_EQ(0, result.code) << result.err;
-  expect_traffic(nlohmann::json::parse(result.out), sent);
+  expect_traffic(nlohmann::json::parse(result.out), offered);
 }
 
 TEST(SrtCommand, CountsAnEncryptedStreamAndNeverPrintsThePassphrase) {
@@ -210,9 +215,9 @@ TEST(SrtCommand, CountsAnEncryptedStreamAndNeverPrintsThePassphrase) {
   Sender sender(true);
   const ToolResult result = run_tool({"srt", "--connect", sender.place(), "--passphrase-file",
                                       secret.path(), "--period", "1", "--count", "2", "--json"});
-  const CBytePerfMon sent = sender.stop();
+  const unsigned int offered = sender.stop();
   EXPECT_EQ(0, result.code) << result.err;
-  expect_traffic(nlohmann::json::parse(result.out), sent);
+  expect_traffic(nlohmann::json::parse(result.out), offered);
   EXPECT_EQ(std::string::npos, (result.out + result.err).find(kPassphrase));
 }
 
@@ -231,17 +236,15 @@ TEST(SrtCommand, AWrongPassphraseIsRefusedWithoutPrintingIt) {
 
 TEST(SrtCommand, ShowsATableAndSaysWhenTheSenderEnds) {
   const SrtSession session;
-  Sender sender(false);
-  std::thread end([&] {
-    std::this_thread::sleep_for(std::chrono::milliseconds(1600));
-    sender.stop();
-  });
+  const Sender sender(false, std::chrono::milliseconds(2500));
   const ToolResult result = run_tool({"srt", "--connect", sender.place(), "--period", "1"});
-  end.join();
   EXPECT_EQ(1, result.code);
-  EXPECT_EQ("kvtool: the connection ended after 1 samples\n", result.err);
   EXPECT_TRUE(result.out.starts_with("    time s    rtt ms      Mb/s    received ")) << result.out;
-  EXPECT_EQ(2, std::count(result.out.begin(), result.out.end(), '\n'));
+  const auto samples = std::count(result.out.begin(), result.out.end(), '\n') - 1;
+  EXPECT_GE(samples, 1);  // a slow machine may miss the second
+  EXPECT_LE(samples, 2);
+  EXPECT_EQ("kvtool: the connection ended after " + std::to_string(samples) + " samples\n",
+            result.err);
 }
 
 TEST(SrtCommand, ListensForASender) {

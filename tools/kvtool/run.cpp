@@ -106,9 +106,9 @@ encoding, file, line, which are null for an essence that is not described.)";
 
 constexpr const char* kSrtFooter =
     R"(Receives an SRT stream, drops what comes, and shows the protocol's own statistics of the
-connection: a line for each sample, or with --csv and --json every field when it is done.
-The exit code is 1 when the connection ends before N samples, and without --count always
-when it ends. Samples are kept for two days at most.
+connection: a line for each sample, with --csv every field of it, with --json all samples
+when it is done. The exit code is 1 when the connection ends before N samples, and without
+--count always when it ends. Samples are kept for two days at most.
 
 Fields have libsrt's counters, all 35 of them. Since the sample before: pkt_* and
 mbps_send_rate, snd_duration (microseconds), bitrate (megabits per second received). Since

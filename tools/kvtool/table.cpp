@@ -91,7 +91,11 @@ void write_text(std::ostream& out, const Table& table, const std::string& indent
 
 void write_csv(std::ostream& out, const Table& table) {
   write_csv_line(out, table.columns, [](const std::string& column) { return column; });
-  for (const std::vector<Cell>& row : table.rows) write_csv_line(out, row, csv_field);
+  for (const std::vector<Cell>& row : table.rows) write_csv_row(out, row);
+}
+
+void write_csv_row(std::ostream& out, const std::vector<Cell>& row) {
+  write_csv_line(out, row, csv_field);
 }
 
 }  // namespace Korvane::Tool

@@ -27,8 +27,10 @@ std::string text_of(const Cell& cell);
 // Headings, then a line a row, each begun with `indent`; numbers stand to the right.
 void write_text(std::ostream& out, const Table& table, const std::string& indent = "");
 
-// RFC 4180 but for the ends of lines, which are line feeds. No value is an empty field.
+// RFC 4180 but for the ends of lines, which are line feeds. No value is an empty field. A row alone
+// serves tables that grow while they are written.
 void write_csv(std::ostream& out, const Table& table);
+void write_csv_row(std::ostream& out, const std::vector<Cell>& row);
 
 // A list of objects; no value is null.
 void write_json(std::ostream& out, const Table& table);

@@ -139,7 +139,7 @@ SRTSOCKET accept_on(const SrtOptions& options, SRTSOCKET listener) {
   return accepted;
 }
 
-void write_live(std::ostream& out, const Media::SRTStreamStatsData& sample, bool first) {
+void write_live_text(std::ostream& out, const Media::SRTStreamStatsData& sample, bool first) {
   if (first)
     out << "    time s    rtt ms      Mb/s    received      lost   belated  undecrypted  buffer "
            "ms\n";
@@ -149,7 +149,16 @@ void write_live(std::ostream& out, const Media::SRTStreamStatsData& sample, bool
        << std::setw(10) << sample.bitrate() << std::setw(12) << sample.packets_received()
        << std::setw(10) << sample.packets_lost() << std::setw(10) << sample.pkt_rcv_belated()
        << std::setw(13) << sample.pkt_rcv_undecrypt() << std::setw(11) << sample.ms_rcv_buffer();
-  out << line.str() << '\n' << std::flush;
+  out << line.str() << '\n';
+}
+
+// JSON is written as a whole.
+void write_live(std::ostream& out, const SrtOptions& options,
+                const Media::SRTStreamStatsData& sample, bool first) {
+  if (options.csv && first) write_csv(out, srt_table());
+  if (options.csv) write_csv_row(out, srt_row(sample));
+  if (!options.csv && !options.json) write_live_text(out, sample, first);
+  out << std::flush;
 }
 
 // Takes and drops what comes until `end`. False when the connection is gone.
@@ -183,8 +192,7 @@ Media::SRTStreamStatsDataList poll_statistics(SRTSOCKET socket, const SrtOptions
     CBytePerfMon counters{};
     if (!open || srt_bstats(socket, &counters, 1) < 0) break;
     samples.add_value(sample_of(counters));
-    if (!options.json && !options.csv)
-      write_live(streams.out, *samples.value_at(samples.size() - 1), samples.size() == 1);
+    write_live(streams.out, options, *samples.value_at(samples.size() - 1), samples.size() == 1);
   }
   return samples;
 }
@@ -210,7 +218,6 @@ int run_srt(const SrtOptions& options, Streams& streams) {
   for (std::size_t i = 0; i < samples.size(); ++i)
     table.rows.push_back(srt_row(*samples.value_at(i)));
   if (options.json) write_json(streams.out, table);
-  if (options.csv) write_csv(streams.out, table);
   if (samples.size() == wanted_samples(options, settings)) return Done;
   streams.err << "kvtool: the connection ended after " << samples.size() << " samples\n";
   return BadInput;
