@@ -15,6 +15,9 @@ set(kv_warnings
 )
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   list(APPEND kv_warnings -Wsuggest-override)  # a changed base is noticed
+  if(CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    list(APPEND kv_warnings -Wno-restrict)  # warns of joining std::string (GCC bug 105651)
+  endif()
 elseif(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
   list(APPEND kv_warnings -Winconsistent-missing-destructor-override)
 endif()
