@@ -23,6 +23,10 @@ kv_install_library(kv_Engine_r runtime)
 if(NOT KV_CORE_TARGET)
   kv_install_library(kv_Core_r core_runtime)
 endif()
+if(WIN32)  # Debian packages have it in each of them
+  install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    COMPONENT core_runtime)
+endif()
 if(KV_MINGW_RUNTIME)
   install(FILES ${KV_MINGW_RUNTIME} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT core_runtime)
 endif()
