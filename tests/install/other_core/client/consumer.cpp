@@ -20,7 +20,7 @@ void check(bool condition, const char* what) {
 int main() {
   for (unsigned long long number = 0; number < 2; ++number) {
     try {
-      Korvane::Timecode(48, false);
+      const Korvane::Timecode unsupported(48, false);
       check(false, "48 frames per second are accepted");
     } catch (const Korvane::Exception& exception) {
       check(exception.number() == number, "not as many exceptions of this core");
