@@ -48,6 +48,16 @@ else()
   endif()
 endif()
 
+# No path of the build machine gets into what is shipped: builds in different folders give the same bytes.
+# Debug builds keep their paths, which debuggers follow.
+set(kv_same_bytes_compile
+  $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>
+  $<$<NOT:$<CONFIG:Debug>>:-ffile-prefix-map=${PROJECT_BINARY_DIR}=./build>)
+set(kv_same_bytes_link "")
+if(MINGW)
+  set(kv_same_bytes_link -Wl,--no-insert-timestamp)
+endif()
+
 set(kv_instrumentation "")
 if(KV_SANITIZE)
   list(APPEND kv_instrumentation -fsanitize=${KV_SANITIZE} -fno-sanitize-recover=all
@@ -64,10 +74,13 @@ function(kv_compile_settings target)
     CXX_EXTENSIONS OFF
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
+    BUILD_RPATH_USE_ORIGIN ON
     POSITION_INDEPENDENT_CODE ON)
   target_compile_options(${target} PRIVATE ${kv_warnings}
-    $<$<BOOL:${KV_WARNINGS_AS_ERRORS}>:-Werror> ${kv_hardening_compile} ${kv_instrumentation})
-  target_link_options(${target} PRIVATE ${kv_hardening_link} ${kv_instrumentation})
+    $<$<BOOL:${KV_WARNINGS_AS_ERRORS}>:-Werror> ${kv_hardening_compile} ${kv_same_bytes_compile}
+    ${kv_instrumentation})
+  target_link_options(${target} PRIVATE ${kv_hardening_link} ${kv_same_bytes_link}
+    ${kv_instrumentation})
 endfunction()
 
 # kv_shared_library(<target>): a library that we ship. Nothing but our own interface is visible: by the

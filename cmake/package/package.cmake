@@ -1,24 +1,43 @@
 # Installation: libraries, headers under one root, CMake package and pkg-config file. Every path in
-# them is relative, so that an installed prefix can be moved.
+# them is relative, so that an installed prefix can be moved. Components: runtime, core_runtime,
+# development, tools.
 include(CMakePackageConfigHelpers)
 
 set(kv_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/kv_Engine_r)
 set(kv_package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/kv_Engine_r)
 
-set(kv_libraries kv_Engine_r)
+# kv_install_library(<target> <component>): the library itself is of <component>, what links against it
+# and its headers are of the development component.
+function(kv_install_library target component)
+  set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+  install(TARGETS ${target} EXPORT kv_Engine_rTargets
+    RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT ${component}
+    LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT ${component}
+      NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
+    INCLUDES DESTINATION ${kv_include_dir}
+    FILE_SET HEADERS DESTINATION ${kv_include_dir} COMPONENT development)
+endfunction()
+
+kv_install_library(kv_Engine_r runtime)
 if(NOT KV_CORE_TARGET)
-  list(APPEND kv_libraries kv_Core_r)
+  kv_install_library(kv_Core_r core_runtime)
+endif()
+if(WIN32)  # Debian packages have it in each of them
+  install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR}
+    COMPONENT core_runtime)
+endif()
+if(KV_MINGW_RUNTIME)
+  install(FILES ${KV_MINGW_RUNTIME} DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT core_runtime)
 endif()
 
-set_target_properties(${kv_libraries} PROPERTIES INSTALL_RPATH "$ORIGIN")
-install(TARGETS ${kv_libraries} EXPORT kv_Engine_rTargets
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-  LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR}
-  INCLUDES DESTINATION ${kv_include_dir}
-  FILE_SET HEADERS DESTINATION ${kv_include_dir})
-install(EXPORT kv_Engine_rTargets NAMESPACE Korvane:: DESTINATION ${kv_package_dir})
+# A core that the project around this one builds can be found by nobody else.
+if(KV_CORE_TARGET AND NOT kv_core_is_installed)
+  return()
+endif()
 
+install(EXPORT kv_Engine_rTargets NAMESPACE Korvane:: DESTINATION ${kv_package_dir}
+  COMPONENT development)
 configure_package_config_file(
   ${CMAKE_CURRENT_LIST_DIR}/kv_Engine_rConfig.cmake.in
   ${PROJECT_BINARY_DIR}/kv_Engine_rConfig.cmake
@@ -28,14 +47,19 @@ write_basic_package_version_file(${PROJECT_BINARY_DIR}/kv_Engine_rConfigVersion.
 install(FILES
   ${PROJECT_BINARY_DIR}/kv_Engine_rConfig.cmake
   ${PROJECT_BINARY_DIR}/kv_Engine_rConfigVersion.cmake
-  DESTINATION ${kv_package_dir})
+  DESTINATION ${kv_package_dir} COMPONENT development)
 
+# Named after the library, so that one with CMAKE_DEBUG_POSTFIX has its own.
 file(RELATIVE_PATH kv_prefix_from_pkgconfig
   /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
-configure_file(${CMAKE_CURRENT_LIST_DIR}/kv_Engine_r.pc.in ${PROJECT_BINARY_DIR}/kv_Engine_r.pc
-  @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/kv_Engine_r.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
-
-if(KV_MINGW_RUNTIME)
-  install(FILES ${KV_MINGW_RUNTIME} DESTINATION ${CMAKE_INSTALL_BINDIR})
+set(kv_pkgconfig_core "")
+if(NOT KV_CORE_TARGET)
+  set(kv_pkgconfig_core " -l$<TARGET_FILE_BASE_NAME:kv_Core_r>")
 endif()
+configure_file(${CMAKE_CURRENT_LIST_DIR}/kv_Engine_r.pc.in ${PROJECT_BINARY_DIR}/kv_Engine_r.pc.in
+  @ONLY)
+set(kv_pkgconfig_file ${PROJECT_BINARY_DIR}/$<TARGET_FILE_BASE_NAME:kv_Engine_r>.pc)
+file(GENERATE OUTPUT ${kv_pkgconfig_file} INPUT ${PROJECT_BINARY_DIR}/kv_Engine_r.pc.in
+  TARGET kv_Engine_r)
+install(FILES ${kv_pkgconfig_file} DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
+  COMPONENT development)
