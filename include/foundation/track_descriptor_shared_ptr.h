@@ -10,6 +10,7 @@
 #ifndef KV_ENGINE_FOUNDATION_TRACK_DESCRIPTOR_SHARED_PTR_H
 #define KV_ENGINE_FOUNDATION_TRACK_DESCRIPTOR_SHARED_PTR_H
 
+#include "foundation/comparison.h"
 #include "foundation/export.h"
 
 namespace Korvane {
@@ -50,6 +51,13 @@ class KV_ENGINE_API TrackDescriptorSharedPtr {
   // Whether both hold the very same descriptor, or nothing; equal descriptors are not looked for.
   // Published without const; keep it so.
   bool operator==(const TrackDescriptorSharedPtr& other);
+
+  // For C++20, which finds the operator ambiguous between two objects that may be changed.
+  template <typename Left, typename Right>
+  friend Detail::Equality<TrackDescriptorSharedPtr, Left, Right> operator==(Left&& left,
+                                                                            Right&& right) {
+    return left.operator==(right);
+  }
 
  private:
   struct Impl;

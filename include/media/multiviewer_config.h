@@ -4,6 +4,7 @@
 #ifndef KV_ENGINE_MEDIA_MULTIVIEWER_CONFIG_H
 #define KV_ENGINE_MEDIA_MULTIVIEWER_CONFIG_H
 
+#include "foundation/comparison.h"
 #include "foundation/export.h"
 #include "foundation/rational32.h"
 #include "foundation/record_ptr.h"
@@ -46,8 +47,9 @@ class KV_ENGINE_API MultiviewerConfig {
   bool operator==(const MultiviewerConfig& other);
   bool operator!=(const MultiviewerConfig& other);
 
-  // For C++20, which also tries `right == left` and finds two changeable objects ambiguous.
-  friend bool operator==(MultiviewerConfig& left, MultiviewerConfig& right) {
+  // For C++20, which finds the operator ambiguous between two objects that may be changed.
+  template <typename Left, typename Right>
+  friend Detail::Equality<MultiviewerConfig, Left, Right> operator==(Left&& left, Right&& right) {
     return left.operator==(right);
   }
 

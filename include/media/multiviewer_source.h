@@ -4,6 +4,7 @@
 #ifndef KV_ENGINE_MEDIA_MULTIVIEWER_SOURCE_H
 #define KV_ENGINE_MEDIA_MULTIVIEWER_SOURCE_H
 
+#include "foundation/comparison.h"
 #include "foundation/export.h"
 #include "foundation/record_ptr.h"
 
@@ -43,8 +44,9 @@ class KV_ENGINE_API MultiviewerSource {
   bool operator==(const MultiviewerSource& other);
   bool operator!=(const MultiviewerSource& other);
 
-  // For C++20, which also tries `right == left` and finds two changeable objects ambiguous.
-  friend bool operator==(MultiviewerSource& left, MultiviewerSource& right) {
+  // For C++20, which finds the operator ambiguous between two objects that may be changed.
+  template <typename Left, typename Right>
+  friend Detail::Equality<MultiviewerSource, Left, Right> operator==(Left&& left, Right&& right) {
     return left.operator==(right);
   }
 

@@ -5,6 +5,7 @@
 #ifndef KV_ENGINE_MEDIA_MULTIVIEWER_SOURCE_LIST_H
 #define KV_ENGINE_MEDIA_MULTIVIEWER_SOURCE_LIST_H
 
+#include "foundation/comparison.h"
 #include "foundation/export.h"
 #include "foundation/record_ptr.h"
 #include "foundation/types.h"
@@ -36,8 +37,10 @@ class KV_ENGINE_API MultiviewerSourceList {
   // Whether the same tiles stand in the same order. Published without const, and without !=.
   bool operator==(const MultiviewerSourceList& other);
 
-  // For C++20, which also tries `right == left` and finds two changeable objects ambiguous.
-  friend bool operator==(MultiviewerSourceList& left, MultiviewerSourceList& right) {
+  // For C++20, which finds the operator ambiguous between two objects that may be changed.
+  template <typename Left, typename Right>
+  friend Detail::Equality<MultiviewerSourceList, Left, Right> operator==(Left&& left,
+                                                                         Right&& right) {
     return left.operator==(right);
   }
 

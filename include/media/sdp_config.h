@@ -6,6 +6,7 @@
 #ifndef KV_ENGINE_MEDIA_SDP_CONFIG_H
 #define KV_ENGINE_MEDIA_SDP_CONFIG_H
 
+#include "foundation/comparison.h"
 #include "foundation/export.h"
 #include "foundation/record_ptr.h"
 #include "media/sdp_type.h"
@@ -40,6 +41,12 @@ class KV_ENGINE_API SdpConfig {
   // to write one address differ. Published without const.
   bool operator==(const SdpConfig& other);
   bool operator!=(const SdpConfig& other);
+
+  // For C++20, which finds the operator ambiguous between two objects that may be changed.
+  template <typename Left, typename Right>
+  friend Detail::Equality<SdpConfig, Left, Right> operator==(Left&& left, Right&& right) {
+    return left.operator==(right);
+  }
 
  private:
   KV_ENGINE_PRIVATE_MEMBER Detail::RecordPtr<SdpConfigPrivate> private_;

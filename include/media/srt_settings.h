@@ -4,6 +4,7 @@
 #ifndef KV_ENGINE_MEDIA_SRT_SETTINGS_H
 #define KV_ENGINE_MEDIA_SRT_SETTINGS_H
 
+#include "foundation/comparison.h"
 #include "foundation/export.h"
 #include "foundation/record_ptr.h"
 
@@ -32,6 +33,12 @@ class KV_ENGINE_API SrtSettings {
   // Equal when both values are. Published without const.
   bool operator==(const SrtSettings& other);
   bool operator!=(const SrtSettings& other);
+
+  // For C++20, which finds the operator ambiguous between two objects that may be changed.
+  template <typename Left, typename Right>
+  friend Detail::Equality<SrtSettings, Left, Right> operator==(Left&& left, Right&& right) {
+    return left.operator==(right);
+  }
 
  private:
   KV_ENGINE_PRIVATE_MEMBER Detail::RecordPtr<SrtSettingsPrivate> private_;

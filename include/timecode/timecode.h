@@ -32,6 +32,7 @@
 #ifndef KV_ENGINE_TIMECODE_TIMECODE_H
 #define KV_ENGINE_TIMECODE_TIMECODE_H
 
+#include "foundation/comparison.h"
 #include "foundation/export.h"
 #include "foundation/rational32.h"
 #include "foundation/record_ptr.h"
@@ -115,6 +116,12 @@ class KV_ENGINE_API Timecode {
   // without const.
   bool operator==(const Timecode& other);
   bool operator!=(const Timecode& other);
+
+  // For C++20, which finds the operator ambiguous between two objects that may be changed.
+  template <typename Left, typename Right>
+  friend Detail::Equality<Timecode, Left, Right> operator==(Left&& left, Right&& right) {
+    return left.operator==(right);
+  }
 
   // Time since the start of the day in milliseconds, rounded toward zero, at `edit_rate` frames per
   // second. The product wraps at 64 bits. A zero numerator gives 0.
