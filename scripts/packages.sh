@@ -42,6 +42,29 @@ need() {
   rm -f "$log"
 }
 
+# unpack FOLDER PACKAGE...: packages that cannot be installed beside those that are needed, into a folder
+# of their own.
+unpack() {
+  local folder=$1
+  shift
+  [ -e "$folder" ] && return
+  say "Unpacking $*"
+  local work
+  work=$(mktemp -d)
+  (
+    cd "$work"
+    apt-get -q download "$@" || { as_root apt-get -q update && apt-get -q download "$@"; }
+  ) >"$work/log" 2>&1 || {
+    tail -n 5 "$work/log" >&2
+    die "could not download (needs a package mirror): $*"
+  }
+  local package
+  for package in "$work"/*.deb; do dpkg -x "$package" "$work/root"; done
+  mkdir -p "$(dirname "$folder")"
+  mv "$work/root" "$folder"
+  rm -rf "$work"
+}
+
 # What every build needs, and what the parts need on top.
 packages_build=(g++ cmake ninja-build pkg-config libboost-dev)
 packages_tools=(libavformat-dev libavcodec-dev libavutil-dev libltc-dev
