@@ -1,55 +1,48 @@
-// Reading and printing the text of a UMID: of a basic one, of an extended one, and of ever more
-// digits, with which the cost grows and no faster.
+// The text of a basic UMID, both ways.
 
-#include <benchmark/benchmark.h>
-
-#include <random>
+#include <algorithm>
+#include <boost/algorithm/hex.hpp>
+#include <iterator>
 #include <string>
+#include <vector>
 
 #include "media/umid.h"
+#include "side.h"
 
-namespace Korvane::Media {
+namespace Korvane {
 namespace {
 
-constexpr int kBasicDigits = 64;
-constexpr int kMostDigits = 1 << 20;
+constexpr const char* kDigits = "060a2b340101010501010d1313000000a1b2c3d4e5f60718293a4b5c6d7e8f90";
+constexpr const wchar_t* kWideDigits =
+    L"060a2b340101010501010d1313000000a1b2c3d4e5f60718293a4b5c6d7e8f90";
 
-// Digits by chance, in groups of eight as they are usually written.
-std::wstring text_of(long digits) {
-  std::minstd_rand source(1);
-  std::wstring text;
-  for (long i = 0; i < digits; ++i) {
-    if (i > 0 && i % 8 == 0) text += L'.';
-    text += L"0123456789ABCDEF"[source() / 16 % 16];
+std::vector<unsigned char> bytes() {
+  std::vector<unsigned char> result;
+  boost::algorithm::unhex(kDigits, std::back_inserter(result));
+  return result;
+}
+
+// As most programs write it.
+std::string print_by_table(const std::vector<unsigned char>& bytes) {
+  constexpr const char* kTable = "0123456789abcdef";
+  std::string text;
+  text.reserve(bytes.size() * 2);
+  for (const unsigned char byte : bytes) {
+    text += kTable[byte >> 4U];
+    text += kTable[byte & 15U];
   }
   return text;
 }
 
-void BM_Umid_FromText(benchmark::State& state) {
-  const std::wstring text = text_of(state.range(0));
-  for (auto _ : state) {
-    const Umid umid(text.c_str());
-    benchmark::DoNotOptimize(umid.value());
-  }
-  state.SetComplexityN(state.range(0));
-}
-BENCHMARK(BM_Umid_FromText)
-    ->RangeMultiplier(4)
-    ->Range(kBasicDigits, kMostDigits)
-    ->Complexity(benchmark::oN);
+const bool kPrint[] = {
+    measure("umid_print/ours", [umid = Media::Umid(kWideDigits)] { return umid.c_str(); }),
+    measure("umid_print/table", [held = bytes()] { return print_by_table(held); }),
+};
 
-void BM_Umid_Text(benchmark::State& state) {
-  const Umid umid(text_of(state.range(0)).c_str());
-  for (auto _ : state) {
-    benchmark::DoNotOptimize(umid.c_str());
-    benchmark::ClobberMemory();
-  }
-  state.SetComplexityN(state.range(0));
-}
-BENCHMARK(BM_Umid_Text)
-    ->RangeMultiplier(4)
-    ->Range(kBasicDigits, kMostDigits)
-    ->Complexity(benchmark::oN);
+const bool kParse[] = {
+    measure("umid_parse/ours", [] { return *Media::Umid(kWideDigits).value(); }),
+    measure("umid_parse/boost::algorithm::unhex", [] { return *bytes().data(); }),
+};
 
 }  // namespace
-}  // namespace Korvane::Media
+}  // namespace Korvane
