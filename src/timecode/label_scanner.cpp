@@ -23,6 +23,12 @@ bool scan_any_character(const char*& text, char& value) {
 }  // namespace
 
 bool scan_number(const char*& text, long long& value) {
+  // Nearly every number of a label has two digits.
+  if (is_digit(text[0]) && is_digit(text[1]) && !is_digit(text[2])) {
+    value = (text[0] - '0') * 10 + (text[1] - '0');
+    text += 2;
+    return true;
+  }
   using Limits = std::numeric_limits<long long>;
   const char* next = text;
   while (is_space(*next)) ++next;

@@ -1,16 +1,26 @@
 #include "timecode/label_text.h"
 
+#include <array>
+#include <cstddef>
+#include <cstring>
+
 #include "timecode/frame_rate.h"
 
 namespace Korvane {
 namespace {
 
-// Decimal, at least two digits. Returns the end of what it wrote.
-char* write_number(unsigned int value, char* out) {
-  if (value >= 100) *out++ = static_cast<char>('0' + value / 100);
-  *out++ = static_cast<char>('0' + value / 10 % 10);
-  *out++ = static_cast<char>('0' + value % 10);
-  return out;
+// "00", "01" ... "99". Longer than it need be, so that no byte lies outside.
+constexpr auto kTwoDigits = [] {
+  std::array<std::array<char, 2>, 256> all{};
+  for (std::size_t i = 0; i < all.size(); ++i)
+    all[i] = {static_cast<char>('0' + i / 10 % 10), static_cast<char>('0' + i % 10)};
+  return all;
+}();
+
+// Two digits. Returns the end of what it wrote.
+char* write_number(unsigned char value, char* out) {
+  std::memcpy(out, kTwoDigits[value].data(), 2);
+  return out + 2;
 }
 
 char* write_frames(const TimecodeState& state, Timecode::FieldMarkIndication field_mark,
@@ -25,8 +35,7 @@ char* write_frames(const TimecodeState& state, Timecode::FieldMarkIndication fie
       }
       return out;
     case Timecode::FieldMarkFullRateFrames:
-      return write_number(pairs ? state.frames * 2U + (state.field_mark ? 1U : 0U) : state.frames,
-                          out);
+      return write_number(state.full_rate_frames(), out);
     case Timecode::FieldMarkOmitted:
       return write_number(state.frames, out);
     case Timecode::FieldMarkFramesDashed:
@@ -37,24 +46,28 @@ char* write_frames(const TimecodeState& state, Timecode::FieldMarkIndication fie
   return out;  // any other indication writes no frames
 }
 
-struct Token {
-  std::string_view text;
-  unsigned char TimecodeState::*field;
-};
+constexpr std::ptrdiff_t kTokenLength = 3;  // "%HH"
 
-constexpr Token kTokens[] = {
-    {"%HH", &TimecodeState::hours},
-    {"%MM", &TimecodeState::minutes},
-    {"%SS", &TimecodeState::seconds},
-    {"%FF", &TimecodeState::frames},
-};
-constexpr std::size_t kTokenLength = 3;
+// What the token with this letter stands for; null when there is no such token.
+const unsigned char* field_of_token(const TimecodeState& state, char letter) {
+  switch (letter) {
+    case 'H':
+      return &state.hours;
+    case 'M':
+      return &state.minutes;
+    case 'S':
+      return &state.seconds;
+    case 'F':
+      return &state.frames;
+    default:
+      return nullptr;
+  }
+}
 
-// The token at the start of `text`, or null.
-const Token* token_at_start(std::string_view text) {
-  for (const Token& token : kTokens)
-    if (text.substr(0, kTokenLength) == token.text) return &token;
-  return nullptr;
+// What the token at `text` stands for; null when there is none.
+const unsigned char* field_at(const TimecodeState& state, const char* text, const char* end) {
+  if (*text != '%' || end - text < kTokenLength || text[1] != text[2]) return nullptr;
+  return field_of_token(state, text[1]);
 }
 
 }  // namespace
@@ -73,18 +86,18 @@ int write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_f
 }
 
 std::string expand_pattern(const TimecodeState& state, std::string_view pattern) {
-  std::string result;
-  result.reserve(pattern.size());
-  while (!pattern.empty()) {
-    if (const Token* const token = token_at_start(pattern)) {
-      char digits[kTokenLength];
-      result.append(digits, write_number(state.*token->field, digits));
-      pattern.remove_prefix(kTokenLength);
+  std::string result(pattern.size(), '\0');  // a number is shorter than its token
+  char* out = result.data();
+  const char* const end = pattern.data() + pattern.size();
+  for (const char* next = pattern.data(); next != end;) {
+    if (const unsigned char* const field = field_at(state, next, end)) {
+      out = write_number(*field, out);
+      next += kTokenLength;
     } else {
-      result += pattern.front();
-      pattern.remove_prefix(1);
+      *out++ = *next++;
     }
   }
+  result.resize(static_cast<std::size_t>(out - result.data()));
   return result;
 }
 

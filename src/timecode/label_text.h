@@ -11,8 +11,8 @@
 
 namespace Korvane {
 
-// Holds every label: "255:255:255;511" is the longest that the fields can hold.
-constexpr int kLabelTextCapacity = 20;
+// Holds every label: "24:00:00;00.0" is of the longest.
+constexpr int kLabelTextCapacity = 16;
 
 // Writes the zero-terminated label into `text` and returns its length.
 int write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_frame,

@@ -1,5 +1,6 @@
 #include "timecode/text_conversion.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "core/exception.h"
@@ -7,13 +8,18 @@
 namespace Korvane {
 namespace {
 
+template <typename Unit>
+bool fits_converter(const std::basic_string<Unit>& text) {
+  return text.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max());
+}
+
 // Query the length, make room, convert. Too long a text counts as a failed query.
 template <typename To, typename From>
 std::basic_string<To> convert(const std::basic_string<From>& text,
                               int (*function)(const From*, int, To*, int), const char* query_failed,
                               const char* length_differs) {
   if (text.empty()) return {};
-  const bool fits = text.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max());
+  const bool fits = fits_converter(text);
   const int size = fits ? static_cast<int>(text.size()) : 0;
   const int length = fits ? function(text.data(), size, nullptr, 0) : 0;
   if (length <= 0) exception_throw(StringConversionFailed, query_failed, true);
@@ -30,6 +36,16 @@ std::wstring utf8_to_wide(const std::string& text, const TextConverter& converte
   // The second text has always been the one of the other direction; callers may rely on it.
   return convert<wchar_t>(text, converter.to_wide, "Unable to convert from string to wstring",
                           "Unable to convert from wstring to string");
+}
+
+void assign_utf8(std::wstring& result, const std::string& text) {
+  const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (!fits_converter(text) || !std::all_of(text.begin(), text.end(), is_ascii)) {
+    result = utf8_to_wide(text);
+    return;
+  }
+  result.resize(text.size());
+  std::copy(text.begin(), text.end(), result.begin());
 }
 
 std::string wide_to_utf8(const std::wstring& text, const TextConverter& converter) {

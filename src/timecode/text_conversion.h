@@ -24,6 +24,10 @@ const TextConverter& platform_text_converter();
 std::wstring utf8_to_wide(const std::string& text,
                           const TextConverter& converter = platform_text_converter());
 
+// As utf8_to_wide, into the room that `result` has where `text` is ASCII. On failure `result`
+// stays.
+void assign_utf8(std::wstring& result, const std::string& text);
+
 // Raises StringConversionFailed "Unable to convert from wstring to string" in both cases.
 std::string wide_to_utf8(const std::wstring& text,
                          const TextConverter& converter = platform_text_converter());

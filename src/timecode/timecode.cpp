@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <iterator>
 #include <string_view>
 
 #include "foundation/required_text.h"
@@ -39,17 +40,21 @@ unsigned long long pack_label(const TimecodeState& state, const St12Layout& layo
   return with_bit(word, layout.drop_frame_bit, state.drop_frame);
 }
 
-const TimecodePrivate& formatted(TimecodePrivate& record, std::string_view pattern) {
+const FormattedText& formatted(TimecodePrivate& record, std::string_view pattern) {
   std::string narrow = expand_pattern(record, pattern);  // `pattern` may be the former result
-  record.format_wide = utf8_to_wide(narrow);
-  record.format_narrow = std::move(narrow);
-  return record;
+  if (record.formatted == nullptr) record.formatted = std::make_unique<FormattedText>();
+  FormattedText& text = *record.formatted;
+  assign_utf8(text.wide, narrow);
+  text.narrow = std::move(narrow);
+  return text;
 }
 
 const TimecodePrivate& printed(TimecodePrivate& record, Timecode::DropFrameIndication drop_frame,
                                Timecode::FieldMarkIndication field_mark) {
-  const int length = write_label(record, drop_frame, field_mark, record.text_narrow);
-  std::copy_n(record.text_narrow, length + 1, record.text_wide);  // ASCII is the same in UTF-16
+  write_label(record, drop_frame, field_mark, record.text_narrow);
+  // ASCII is the same in UTF-16. The whole array is quicker than the text alone.
+  std::transform(std::begin(record.text_narrow), std::end(record.text_narrow), record.text_wide,
+                 [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
   return record;
 }
 
@@ -90,7 +95,7 @@ Timecode::Timecode(unsigned short rate, TimeData clock, bool drop_frame, Rationa
 
 Timecode::Timecode(unsigned short rate, long long frame_count, bool drop_frame)
     : private_(new TimecodePrivate(rate, frame_count, drop_frame)) {
-  private_->validate(true);
+  private_->validate_rate();
   private_->normalize(true);
 }
 
@@ -104,7 +109,7 @@ Timecode::~Timecode() = default;
 
 unsigned short Timecode::frame_rate() const { return private_->frame_rate; }
 long long Timecode::frame_count() const { return private_->frame_count; }
-long long Timecode::absolute_frame_count() const { return private_->absolute_frame_count; }
+long long Timecode::absolute_frame_count() const { return private_->absolute_frame_count(); }
 short Timecode::days() const { return private_->days; }
 bool Timecode::drop_frame() const { return private_->drop_frame; }
 bool Timecode::field_mark() const { return private_->field_mark; }
@@ -113,23 +118,17 @@ unsigned char Timecode::minutes() const { return private_->minutes; }
 unsigned char Timecode::seconds() const { return private_->seconds; }
 unsigned char Timecode::frames() const { return private_->frames; }
 
-unsigned char Timecode::frames_ignore_field_mark() const {
-  if (!is_double_rate(private_->frame_rate)) return private_->frames;
-  return static_cast<unsigned char>(private_->frames * 2 + (private_->field_mark ? 1 : 0));
-}
+unsigned char Timecode::frames_ignore_field_mark() const { return private_->full_rate_frames(); }
 
-void Timecode::add(long long n) {
-  private_->frame_count = wrapping_add(private_->frame_count, n);
-  private_->normalize(true);
-}
+void Timecode::add(long long n) { private_->add(n); }
 
 void Timecode::add_days(long long n) {
-  add(wrapping_multiply(frames_per_day(private_->frame_rate, private_->drop_frame), n));
+  private_->add(wrapping_multiply(frames_per_day(private_->frame_rate, private_->drop_frame), n));
 }
 
-void Timecode::operator++() { add(1); }
+void Timecode::operator++() { private_->step(); }
 
-void Timecode::operator--() { add(-1); }
+void Timecode::operator--() { private_->step_back(); }
 
 bool Timecode::operator==(const Timecode& other) {
   // Only these three: two frames an hour apart are equal.
@@ -144,7 +143,7 @@ unsigned long long Timecode::to_ms(const Rational32& edit_rate) const {
   // Never the smallest number, whose quotient by -1 would not fit: that would take 2^63 in the
   // product.
   const long long dividend = wrapping_multiply(
-      wrapping_multiply(private_->absolute_frame_count, edit_rate.denominator), 1000);
+      wrapping_multiply(private_->absolute_frame_count(), edit_rate.denominator), 1000);
   if (edit_rate.numerator == 0) return 0;
   return static_cast<unsigned long long>(dividend / edit_rate.numerator);
 }
@@ -159,11 +158,11 @@ const wchar_t* Timecode::text(DropFrameIndication drop_frame,
 }
 
 const char* Timecode::formatter(const char* pattern) const {
-  return formatted(*private_, required_text(pattern)).format_narrow.c_str();
+  return formatted(*private_, required_text(pattern)).narrow.c_str();
 }
 
 const wchar_t* Timecode::formatter(const wchar_t* pattern) const {
-  return formatted(*private_, wide_to_utf8(required_text(pattern))).format_wide.c_str();
+  return formatted(*private_, wide_to_utf8(required_text(pattern))).wide.c_str();
 }
 
 unsigned int Timecode::to_12m() const {

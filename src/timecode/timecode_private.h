@@ -3,6 +3,7 @@
 #ifndef KV_ENGINE_SRC_TIMECODE_TIMECODE_PRIVATE_H
 #define KV_ENGINE_SRC_TIMECODE_TIMECODE_PRIVATE_H
 
+#include <memory>
 #include <string>
 
 #include "timecode/label_text.h"
@@ -10,16 +11,24 @@
 
 namespace Korvane {
 
+// What formatter() handed out last.
+struct FormattedText {
+  std::wstring wide;
+  std::string narrow;
+};
+
 struct TimecodePrivate : TimecodeState {
-  wchar_t text_wide[kLabelTextCapacity] = {};
+  wchar_t text_wide[kLabelTextCapacity];  // written as a whole with every text
   char text_narrow[kLabelTextCapacity] = {};
-  std::wstring format_wide;
-  std::string format_narrow;
+  std::unique_ptr<FormattedText> formatted;  // null until the first call
 
   using TimecodeState::TimecodeState;
 
-  // A copy does not carry the days, nor the texts.
-  TimecodePrivate(const TimecodePrivate& other) : TimecodeState(other) { days = 0; }
+  // A copy does not carry the texts, nor the days, which its first step derives.
+  TimecodePrivate(const TimecodePrivate& other) : TimecodeState(other) {
+    days = 0;
+    stepping = Stepping::Derived;
+  }
   TimecodePrivate& operator=(const TimecodePrivate&) = delete;
   ~TimecodePrivate() = default;
 };

@@ -1,53 +1,70 @@
 #include "timecode/timecode_state.h"
 
+#include <algorithm>
+
 #include "core/exception.h"
+#include "foundation/wrapping.h"
 #include "timecode/frame_rate.h"
 
 namespace Korvane {
 namespace {
 
-// The number that the label of frame `count` of the day has when every number is counted, dropped
-// ones too.
-template <int rate>
-int with_dropped_numbers(int count) {
-  constexpr int kPerTenMinutes = rate * 600000 / 1001;
-  constexpr int kPerMinute = rate * 60000 / 1001;
-  const int tens = count / kPerTenMinutes;
-  const int rest = count % kPerTenMinutes;
-  const int dropping_minutes = (kPerMinute + rest - rate * 60) / kPerMinute;
-  return count + (9 * tens + dropping_minutes) * dropped_per_minute(rate);
-}
+constexpr long long kFar = 1LL << 62;  // from here on steps mind the ends of 64 bits
 
 // Derives the label from the absolute frame count, which is below 25 hours, so that 32 bits hold
-// it. One function a rate: the compiler divides by constants.
-template <int rate>
+// it. Of ten minutes all but the first drop numbers; without drop-frame counting none does.
+template <unsigned int rate, bool drop>
 void derive_label(TimecodeState& state) {
-  int number = static_cast<int>(state.absolute_frame_count);
-  if constexpr (can_drop_frames(rate)) {
-    if (state.drop_frame) number = with_dropped_numbers<rate>(number);
-  }
-  const int second_of_day = number / rate;
-  const int frame_of_second = number % rate;
-  state.hours = static_cast<unsigned char>(second_of_day / 3600);
-  state.minutes = static_cast<unsigned char>(second_of_day / 60 % 60);
-  state.seconds = static_cast<unsigned char>(second_of_day % 60);
-  state.frames = static_cast<unsigned char>(frame_of_second / frames_per_label_frame(rate));
-  state.field_mark = is_double_rate(rate) && frame_of_second % 2 != 0;
+  constexpr unsigned int kDropped = drop ? dropped_per_minute(rate) : 0;
+  constexpr unsigned int kPerMinute = 60 * rate - kDropped;
+  constexpr unsigned int kPerTenMinutes = 10 * kPerMinute + kDropped;
+  const auto frame_of_day = static_cast<unsigned int>(state.absolute_frame_count());
+  const unsigned int tens = frame_of_day / kPerTenMinutes;
+  const unsigned int rest = frame_of_day % kPerTenMinutes;
+  const unsigned int minute = (std::max(rest, kDropped) - kDropped) / kPerMinute;
+  const unsigned int number_of_minute = rest - minute * kPerMinute;
+  const unsigned int number_of_second = number_of_minute % rate;
+  state.hours = static_cast<unsigned char>(tens / 6);
+  state.minutes = static_cast<unsigned char>(tens % 6 * 10 + minute);
+  state.seconds = static_cast<unsigned char>(number_of_minute / rate);
+  state.frames = static_cast<unsigned char>(number_of_second / frames_per_label_frame(rate));
+  state.field_mark = is_double_rate(rate) && number_of_second % 2 != 0;
+}
+
+constexpr Stepping stepping_at(unsigned short rate) {
+  return is_double_rate(rate) ? Stepping::Pairs : Stepping::Single;
+}
+
+constexpr unsigned char last_frame_at(unsigned short rate) {
+  return static_cast<unsigned char>(rate / frames_per_label_frame(rate) - 1);
+}
+
+// One function for each way of counting: the compiler divides by constants.
+template <unsigned int rate, bool drop>
+void normalize_at(TimecodeState& state, bool wrap) {
+  constexpr long long kPerDay = frames_per_day(rate, drop);
+  const long long count = state.frame_count;
+  long long whole_days = 0;
+  if (wrap && (count < 0 || count >= kPerDay))
+    whole_days = count / kPerDay - (count % kPerDay < 0 ? 1 : 0);
+  state.to_first_day = wrapping_multiply(whole_days, -kPerDay);
+  state.days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
+  derive_label<rate, drop>(state);
+
+  const bool in_place = state.hours < 24 && count >= -kFar && count < kFar;
+  state.stepping = in_place ? stepping_at(rate) : Stepping::Derived;
+  state.last_frame = last_frame_at(rate);
 }
 
 }  // namespace
 
-TimecodeState::TimecodeState(unsigned short rate, bool drop)
-    : frame_rate(rate), drop_frame(drop && can_drop_frames(rate)) {}
-
-TimecodeState::TimecodeState(unsigned short rate, long long count, bool drop)
-    : TimecodeState(rate, drop) {
-  frame_count = count;
+void TimecodeState::validate_rate() const {
+  if (!is_supported_rate(frame_rate))
+    exception_throw(NotSupported, "Frame rate not supported.", true);
 }
 
 void TimecodeState::validate(bool check_drop_frame_label) const {
-  if (!is_supported_rate(frame_rate))
-    exception_throw(NotSupported, "Frame rate not supported.", true);
+  validate_rate();
   if (hours > 24)  // 24 itself is the end of the day
     exception_throw(InvalidArgument, "Hours cannot be lower than 0 and higher than 24.", true);
   if (minutes > 59)
@@ -76,37 +93,77 @@ long long TimecodeState::count_of_label() const {
 void TimecodeState::recompute_from_fields(bool wrap, bool check_drop_frame_label) {
   validate(check_drop_frame_label);
   frame_count = count_of_label();
-  normalize(wrap);
+  // A label of the day that counting does not leave out is what it would be derived to.
+  if (check_drop_frame_label && hours < 24)
+    keep_label();
+  else
+    normalize(wrap);
+}
+
+void TimecodeState::keep_label() {
+  field_mark = field_mark && is_double_rate(frame_rate);
+  stepping = stepping_at(frame_rate);
+  last_frame = last_frame_at(frame_rate);
 }
 
 void TimecodeState::normalize(bool wrap) {
-  absolute_frame_count = frame_count;
-  days = 0;
-  const long long per_day = frames_per_day(frame_rate, drop_frame);
-  if (wrap && (frame_count < 0 || frame_count >= per_day)) {
-    long long whole_days = frame_count / per_day;
-    absolute_frame_count = frame_count % per_day;
-    if (absolute_frame_count < 0) {
-      absolute_frame_count += per_day;
-      --whole_days;
-    }
-    days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
-  }
-
   switch (frame_rate) {
     case 24:
-      return derive_label<24>(*this);
+      return normalize_at<24, false>(*this, wrap);
     case 25:
-      return derive_label<25>(*this);
+      return normalize_at<25, false>(*this, wrap);
     case 30:
-      return derive_label<30>(*this);
+      return drop_frame ? normalize_at<30, true>(*this, wrap)
+                        : normalize_at<30, false>(*this, wrap);
     case 50:
-      return derive_label<50>(*this);
+      return normalize_at<50, false>(*this, wrap);
     case 60:
-      return derive_label<60>(*this);
+      return drop_frame ? normalize_at<60, true>(*this, wrap)
+                        : normalize_at<60, false>(*this, wrap);
     default:
       return;  // refused by validate()
   }
+}
+
+void TimecodeState::add(long long n) {
+  frame_count = wrapping_add(frame_count, n);
+  normalize(true);
+}
+
+void TimecodeState::step_further() {
+  if (stepping == Stepping::Derived) return add(1);
+  if (stepping == Stepping::Pairs && !field_mark) {
+    field_mark = true;
+  } else if (frames < last_frame) {
+    ++frames;
+    field_mark = false;
+  } else if (seconds < 59) {
+    ++seconds;
+    frames = 0;
+    field_mark = false;
+  } else {
+    return add(1);
+  }
+  ++frame_count;
+}
+
+void TimecodeState::step_further_back() {
+  if (stepping == Stepping::Derived) return add(-1);
+  const bool pairs = stepping == Stepping::Pairs;
+  const int first = drop_frame && seconds == 0 ? kFirstNeverDropped : 0;
+  if (pairs && field_mark) {
+    field_mark = false;
+  } else if (frames > first) {
+    --frames;
+    field_mark = pairs;
+  } else if (seconds > 0) {
+    --seconds;
+    frames = last_frame;
+    field_mark = pairs;
+  } else {
+    return add(-1);
+  }
+  --frame_count;
 }
 
 }  // namespace Korvane

@@ -4,20 +4,38 @@
 #ifndef KV_ENGINE_SRC_TIMECODE_TIMECODE_STATE_H
 #define KV_ENGINE_SRC_TIMECODE_TIMECODE_STATE_H
 
+#include "foundation/wrapping.h"
+#include "timecode/frame_rate.h"
+
 namespace Korvane {
+
+// What a step within a minute changes beside the frame count.
+enum class Stepping : unsigned char {
+  Derived,  // everything is derived anew: in hour 24, near the ends of 64 bits, in a fresh copy
+  Single,   // the frames, and after the last one the seconds
+  Pairs     // likewise, with every second step; the field mark with each
+};
 
 struct TimecodeState {
   unsigned short frame_rate = 0;
   long long frame_count = 0;
-  long long absolute_frame_count = 0;
+  long long to_first_day = 0;  // what brings the frame count into one day
   bool drop_frame = false;
   unsigned char hours = 0, minutes = 0, seconds = 0, frames = 0;
   bool field_mark = false;
-  short days = 0;
+  short days = 0;  // 0 in a copy until it is stepped
+  Stepping stepping = Stepping::Derived;
+  unsigned char last_frame = 0;  // of a second, as the label counts
 
   // All zero. `drop` is kept only at rates that can drop frames.
-  TimecodeState(unsigned short rate, bool drop);
-  TimecodeState(unsigned short rate, long long count, bool drop);
+  TimecodeState(unsigned short rate, bool drop)
+      : frame_rate(rate), drop_frame(drop && can_drop_frames(rate)) {}
+  TimecodeState(unsigned short rate, long long count, bool drop) : TimecodeState(rate, drop) {
+    frame_count = count;
+  }
+
+  // All that can be wrong with a state whose label is still zero.
+  void validate_rate() const;
 
   // Raises the first error of rate and label; `check_drop_frame_label` also refuses the labels that
   // drop-frame counting leaves out.
@@ -29,8 +47,39 @@ struct TimecodeState {
   // Validates the label, takes the frame count from it and normalizes.
   void recompute_from_fields(bool wrap, bool check_drop_frame_label);
 
+  // As normalize() for a first time, where the label is known to be right.
+  void keep_label();
+
   // Derives everything from the frame count; with `wrap` the label is brought into one day.
   void normalize(bool wrap);
+
+  long long absolute_frame_count() const { return wrapping_add(frame_count, to_first_day); }
+
+  // Of the second, from 0.
+  unsigned char full_rate_frames() const {
+    return static_cast<unsigned char>(is_double_rate(frame_rate) ? frames * 2 + (field_mark ? 1 : 0)
+                                                                 : frames);
+  }
+
+  void add(long long n);
+
+  // As add(1) and add(-1), but as little as can be for most.
+  void step() {
+    if (stepping != Stepping::Single || frames >= last_frame) return step_further();
+    ++frames;
+    ++frame_count;
+  }
+  void step_back() {
+    if (stepping != Stepping::Single || frames <= kFirstNeverDropped) return step_further_back();
+    --frames;
+    --frame_count;
+  }
+
+ private:
+  static constexpr int kFirstNeverDropped = 2;  // frame of a label at second 0
+
+  void step_further();
+  void step_further_back();
 };
 
 }  // namespace Korvane

@@ -114,7 +114,7 @@ void log_timecode_difference(const char* label, const Timecode& previous, const 
   TimecodeState expected(previous.frame_rate(), wrapping_add(previous.frame_count(), 1),
                          previous.drop_frame());
   expected.normalize(true);
-  if (expected.absolute_frame_count == current.absolute_frame_count()) return;
+  if (expected.absolute_frame_count() == current.absolute_frame_count()) return;
 
   char expected_text[kLabelTextCapacity];
   write_label(expected, Timecode::DropFrameSemicolon, Timecode::FieldMarkDotSuffix, expected_text);
