@@ -30,21 +30,25 @@ constexpr int hexadecimal_value(wchar_t character) {
 
 constexpr wchar_t hexadecimal_digit(unsigned int value) { return L"0123456789abcdef"[value & 15U]; }
 
-std::vector<unsigned char> bytes_of(const wchar_t* text) {
-  std::vector<unsigned char> bytes;
-  int high = -1;  // the digit that waits for the second one of its byte
-  for (; *text != L'\0'; ++text) {
-    const int digit = hexadecimal_value(*text);
-    if (digit < 0) continue;
-    if (high < 0) {
-      high = digit;
-    } else {
-      bytes.push_back(static_cast<unsigned char>(high * 16 + digit));
-      high = -1;
-    }
+// Moves `text` behind its next digit and returns the digit's value; -1 when there is none left.
+int next_digit(const wchar_t*& text) {
+  while (*text != L'\0') {
+    const int value = hexadecimal_value(*text++);
+    if (value >= 0) return value;
   }
-  // Callers know this failure as the standard library's own.
-  if (high >= 0) throw std::out_of_range("invalid string position");
+  return -1;
+}
+
+std::vector<unsigned char> bytes_of(const wchar_t* text) {
+  std::vector<unsigned char> bytes(std::wcslen(text) / 2);  // at most
+  auto end = bytes.begin();
+  for (int high = next_digit(text); high >= 0; high = next_digit(text)) {
+    const int low = next_digit(text);
+    // Callers know this failure as the standard library's own.
+    if (low < 0) throw std::out_of_range("invalid string position");
+    *end++ = static_cast<unsigned char>(high * 16 + low);
+  }
+  bytes.erase(end, bytes.end());
   return bytes;
 }
 

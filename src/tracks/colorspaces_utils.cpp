@@ -1,19 +1,22 @@
 #include "media/colorspaces_utils.h"
 
+#include <bit>
+
 #include "core/exception.h"
 #include "tracks/enum_table.h"
 
 namespace Korvane::ColorspacesUtils {
 namespace {
 
-// Bytes of a line: its pixels multiplied, then divided, then rounded up to the alignment.
+// Bytes of a line: its pixels multiplied, then divided, then rounded up to the alignment, a power
+// of two.
 struct LineBytes {
   unsigned int multiplier;
   unsigned int divisor;
   unsigned int alignment;
 };
 
-constexpr LineBytes kNone = {0, 0, 0};
+constexpr LineBytes kNone = {0, 0, 1};
 constexpr LineBytes kHalf = {1, 2, 1};
 constexpr LineBytes kV210Blocks = {16, 6, 128};  // 6 pixels in 16 bytes
 constexpr LineBytes kPairsIn5 = {5, 2, 1};
@@ -26,7 +29,7 @@ struct Row {
   unsigned int component_depth;  // 0: not known
   LineBytes first_plane;
   LineBytes other_planes;
-  unsigned int width_step;    // the width must be a multiple of it
+  unsigned int width_step;    // the width must be a multiple of it; a power of two
   unsigned int line_divisor;  // of the lines of the other planes
   const char* wrong_plane;    // the message for planes that do not exist
 };
@@ -79,9 +82,20 @@ constexpr bool planes_have_line_bytes() {
 }
 static_assert(planes_have_line_bytes());
 
+constexpr bool steps_are_powers_of_two() {
+  for (const Row& row : kRows)
+    if (!std::has_single_bit(row.width_step) || !std::has_single_bit(row.first_plane.alignment) ||
+        !std::has_single_bit(row.other_planes.alignment))
+      return false;
+  return true;
+}
+static_assert(steps_are_powers_of_two());
+
+// Dividing by a variable takes longer than all the rest.
 unsigned int bytes_of_line(const LineBytes& rule, unsigned int width) {
-  const unsigned int bytes = width * rule.multiplier / rule.divisor;
-  return (bytes + rule.alignment - 1) / rule.alignment * rule.alignment;
+  const unsigned int product = width * rule.multiplier;
+  const unsigned int bytes = rule.divisor == 1 ? product : product / rule.divisor;
+  return (bytes + rule.alignment - 1) & ~(rule.alignment - 1);
 }
 
 }  // namespace
@@ -102,10 +116,11 @@ unsigned int component_depth_for_colorspace(Colorspaces colorspace) {
 
 unsigned int stride_for_colorspace(Colorspaces colorspace, unsigned int width, unsigned int plane) {
   const Row* const row = find_row(kRows, colorspace);
-  exception_enforce(row != nullptr && row->planes != 0, InvalidArgument,
-                    "Unable to map between colorspace and stride", true);
-  exception_enforce(plane < row->planes, InvalidArgument, row->wrong_plane, true);
-  exception_enforce(width % row->width_step == 0, InvalidArgument, "Width must be aligned", true);
+  if (row == nullptr || row->planes == 0)
+    exception_throw(InvalidArgument, "Unable to map between colorspace and stride", true);
+  if (plane >= row->planes) exception_throw(InvalidArgument, row->wrong_plane, true);
+  if ((width & (row->width_step - 1)) != 0)
+    exception_throw(InvalidArgument, "Width must be aligned", true);
   return bytes_of_line(plane == 0 ? row->first_plane : row->other_planes, width);
 }
 

@@ -3,6 +3,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <string_view>
 
 #include "tracks/optional_cell.h"
 
@@ -47,7 +48,7 @@ void TrackDescriptor::add_key_value(const char* key, const char* value) {
 }
 
 const char* TrackDescriptor::get_key_value(const char* key) const {
-  const auto found = private_->key_values.find(key);
+  const auto found = private_->key_values.find(std::string_view(key));
   return found == private_->key_values.end() ? nullptr : found->second.c_str();
 }
 
