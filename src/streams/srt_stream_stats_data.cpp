@@ -1,15 +1,9 @@
 #include "media/srt_stream_stats_data.h"
 
-#include <cmath>
-#include <cstring>
-
 namespace Korvane::Media {
 namespace {
 
 using SrtCount = unsigned long long;
-
-bool is_nan(SrtCount /*value*/) { return false; }
-bool is_nan(double value) { return std::isnan(value); }
 
 }  // namespace
 
@@ -64,24 +58,8 @@ struct SRTStreamStatsDataPrivate {
   KV_SRT_FIELDS(KV_SRT_MEMBER)
 #undef KV_SRT_MEMBER
 
-  // Equal bytes are equal values but for NaN; different bytes may still be equal values.
-  bool operator==(const SRTStreamStatsDataPrivate& other) const {
-    // NOLINTNEXTLINE(bugprone-suspicious-memory-comparison,cert-*): see above
-    if (std::memcmp(this, &other, sizeof *this) == 0) return !holds_nan();
-    return has_equal_fields(other);
-  }
-
- private:
-  bool holds_nan() const {
-    bool found = false;
-#define KV_SRT_NAN(type, name) found = found || is_nan(this->name);
-    KV_SRT_FIELDS(KV_SRT_NAN)
-#undef KV_SRT_NAN
-    return found;
-  }
-
   // The latency before the bit rate, and never packets_retransmitted.
-  bool has_equal_fields(const SRTStreamStatsDataPrivate& other) const {
+  bool operator==(const SRTStreamStatsDataPrivate& other) const {
 #define KV_SRT_DIFFERENCE(type, name) \
   if (this->name != other.name) return false;
     KV_SRT_FIELDS_COMPARED_FIRST(KV_SRT_DIFFERENCE)

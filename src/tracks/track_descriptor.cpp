@@ -3,7 +3,6 @@
 #include <functional>
 #include <map>
 #include <string>
-#include <string_view>
 
 #include "tracks/optional_cell.h"
 
@@ -48,7 +47,7 @@ void TrackDescriptor::add_key_value(const char* key, const char* value) {
 }
 
 const char* TrackDescriptor::get_key_value(const char* key) const {
-  const auto found = private_->key_values.find(std::string_view(key));
+  const auto found = private_->key_values.find(key);
   return found == private_->key_values.end() ? nullptr : found->second.c_str();
 }
 
