@@ -1,12 +1,9 @@
-// Every benchmark is named OPERATION/SIDE: what is done, and by whom. scripts/bench puts the sides
-// of one operation beside each other.
+// Every benchmark is named OPERATION/SIDE: what is done, and by whom.
 
 #ifndef KV_ENGINE_BENCH_SIDE_H
 #define KV_ENGINE_BENCH_SIDE_H
 
 #include <benchmark/benchmark.h>
-
-#include <utility>
 
 namespace Korvane {
 

@@ -19,6 +19,11 @@ constexpr bool can_drop_frames(unsigned short rate) { return rate == 30 || rate 
 // What a label's `frames` field counts: single frames, or pairs at double rates.
 constexpr int frames_per_label_frame(unsigned short rate) { return is_double_rate(rate) ? 2 : 1; }
 
+// The last value of a label's `frames` field.
+constexpr unsigned char last_label_frame(unsigned short rate) {
+  return static_cast<unsigned char>(rate / frames_per_label_frame(rate) - 1);
+}
+
 // Drop-frame counting leaves out this many frame numbers each minute but the tenth.
 constexpr int dropped_per_minute(unsigned short rate) { return is_double_rate(rate) ? 4 : 2; }
 

@@ -72,8 +72,8 @@ const unsigned char* field_at(const TimecodeState& state, const char* text, cons
 
 }  // namespace
 
-int write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_frame,
-                Timecode::FieldMarkIndication field_mark, char (&text)[kLabelTextCapacity]) {
+void write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_frame,
+                 Timecode::FieldMarkIndication field_mark, char (&text)[kLabelTextCapacity]) {
   char* out = write_number(state.hours, text);
   *out++ = ':';
   out = write_number(state.minutes, out);
@@ -82,7 +82,6 @@ int write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_f
   *out++ = state.drop_frame && drop_frame == Timecode::DropFrameSemicolon ? ';' : ':';
   out = write_frames(state, field_mark, out);
   *out = '\0';
-  return static_cast<int>(out - text);
 }
 
 std::string expand_pattern(const TimecodeState& state, std::string_view pattern) {

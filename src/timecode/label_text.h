@@ -14,9 +14,9 @@ namespace Korvane {
 // Holds every label: "24:00:00;00.0" is of the longest.
 constexpr int kLabelTextCapacity = 16;
 
-// Writes the zero-terminated label into `text` and returns its length.
-int write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_frame,
-                Timecode::FieldMarkIndication field_mark, char (&text)[kLabelTextCapacity]);
+// Writes the zero-terminated label into `text`.
+void write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_frame,
+                 Timecode::FieldMarkIndication field_mark, char (&text)[kLabelTextCapacity]);
 
 // `pattern` with every %HH, %MM, %SS and %FF replaced. What a replacement writes is digits, which
 // belong to no token, so one pass gives what four successive replacements give.

@@ -35,10 +35,6 @@ constexpr Stepping stepping_at(unsigned short rate) {
   return is_double_rate(rate) ? Stepping::Pairs : Stepping::Single;
 }
 
-constexpr unsigned char last_frame_at(unsigned short rate) {
-  return static_cast<unsigned char>(rate / frames_per_label_frame(rate) - 1);
-}
-
 // One function for each way of counting: the compiler divides by constants.
 template <unsigned int rate, bool drop>
 void normalize_at(TimecodeState& state, bool wrap) {
@@ -53,7 +49,6 @@ void normalize_at(TimecodeState& state, bool wrap) {
 
   const bool in_place = state.hours < 24 && count >= -kFar && count < kFar;
   state.stepping = in_place ? stepping_at(rate) : Stepping::Derived;
-  state.last_frame = last_frame_at(rate);
 }
 
 }  // namespace
@@ -71,7 +66,7 @@ void TimecodeState::validate(bool check_drop_frame_label) const {
     exception_throw(InvalidArgument, "Minutes cannot be lower than 0 and higher than 59.", true);
   if (seconds > 59)
     exception_throw(InvalidArgument, "Seconds cannot be lower than 0 and higher than 59.", true);
-  if (frames >= frame_rate / frames_per_label_frame(frame_rate))
+  if (frames > last_frame)
     exception_throw(InvalidArgument,
                     "Frames cannot be lower than 0 and higher than the frame rate value.", true);
   if (drop_frame && check_drop_frame_label && minutes % 10 != 0 && seconds == 0 && frames <= 1)
@@ -103,7 +98,6 @@ void TimecodeState::recompute_from_fields(bool wrap, bool check_drop_frame_label
 void TimecodeState::keep_label() {
   field_mark = field_mark && is_double_rate(frame_rate);
   stepping = stepping_at(frame_rate);
-  last_frame = last_frame_at(frame_rate);
 }
 
 void TimecodeState::normalize(bool wrap) {

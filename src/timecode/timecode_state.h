@@ -25,11 +25,13 @@ struct TimecodeState {
   bool field_mark = false;
   short days = 0;  // 0 in a copy until it is stepped
   Stepping stepping = Stepping::Derived;
-  unsigned char last_frame = 0;  // of a second, as the label counts
+  unsigned char last_frame = 0;  // of a second of labels
 
   // All zero. `drop` is kept only at rates that can drop frames.
   TimecodeState(unsigned short rate, bool drop)
-      : frame_rate(rate), drop_frame(drop && can_drop_frames(rate)) {}
+      : frame_rate(rate),
+        drop_frame(drop && can_drop_frames(rate)),
+        last_frame(last_label_frame(rate)) {}
   TimecodeState(unsigned short rate, long long count, bool drop) : TimecodeState(rate, drop) {
     frame_count = count;
   }
@@ -46,9 +48,6 @@ struct TimecodeState {
 
   // Validates the label, takes the frame count from it and normalizes.
   void recompute_from_fields(bool wrap, bool check_drop_frame_label);
-
-  // As normalize() for a first time, where the label is known to be right.
-  void keep_label();
 
   // Derives everything from the frame count; with `wrap` the label is brought into one day.
   void normalize(bool wrap);
@@ -77,6 +76,9 @@ struct TimecodeState {
 
  private:
   static constexpr int kFirstNeverDropped = 2;  // frame of a label at second 0
+
+  // As normalize() for a first time, where the label is known to be right.
+  void keep_label();
 
   void step_further();
   void step_further_back();

@@ -161,6 +161,13 @@ void write_live(std::ostream& out, const SrtOptions& options,
   out << std::flush;
 }
 
+Table sample_table(const Media::SRTStreamStatsDataList& samples) {
+  Table table = srt_table();
+  for (std::size_t i = 0; i < samples.size(); ++i)
+    table.rows.push_back(srt_row(*samples.value_at(i)));
+  return table;
+}
+
 // Takes and drops what comes until `end`. False when the connection is gone.
 bool receive_until(SRTSOCKET socket, Clock::time_point end) {
   std::array<char, 1456> packet{};
@@ -214,10 +221,7 @@ int run_srt(const SrtOptions& options, Streams& streams) {
 
   const Media::SrtSettings settings(Media::SrtSettings().days_to_preserve_stats(), options.period);
   const Media::SRTStreamStatsDataList samples = poll_statistics(socket, options, settings, streams);
-  Table table = srt_table();
-  for (std::size_t i = 0; i < samples.size(); ++i)
-    table.rows.push_back(srt_row(*samples.value_at(i)));
-  if (options.json) write_json(streams.out, table);
+  if (options.json) write_json(streams.out, sample_table(samples));
   if (samples.size() == wanted_samples(options, settings)) return Done;
   streams.err << "kvtool: the connection ended after " << samples.size() << " samples\n";
   return BadInput;
