@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <new>
 #include <ostream>
 #include <stdexcept>
@@ -42,58 +43,57 @@ Outcome outcome_of(Operation&& operation) {
 // failure for all causes; or nothing, from one that then leaves out what it was to write.
 enum class Failing { AsBadAlloc, AsRefusal, AsNothing };
 
-struct Need {
-  long allocations = 0;
-  Outcome outcome = Outcome::Done;
+// How often an operation was run by exhaust().
+extern long runs;
 
-  // Raising an exception needs memory of its own on some systems, and does without it.
-  bool allows(Outcome actual, long failing, Failing as) const {
-    if (failing > allocations) return actual == outcome;
-    if (actual == Outcome::Refused) return outcome == Outcome::Refused || as == Failing::AsRefusal;
-    return (actual == Outcome::Done) == (as == Failing::AsNothing);
-  }
+// An object, and what is done with it.
+class Attempt {
+ public:
+  Attempt() = default;
+  Attempt(const Attempt&) = delete;
+  Attempt& operator=(const Attempt&) = delete;
+  virtual ~Attempt() = default;
+
+  virtual void make() = 0;
+  virtual void operate() = 0;
+  virtual void check() = 0;
+  virtual void end() = 0;  // after assigning a new object, where the class can
 };
 
-// How often an operation was run by exhaust().
-inline long runs = 0;
+// Makes an object and runs its operation with the 1st, 2nd, ... allocation failing, and with all
+// from the 1st, 2nd, ... on, until it has all that it needs. After each run without memory the
+// object is checked; then it takes a new value and is destroyed. Nothing may leak.
+void exhaust(Attempt& attempt, Failing as);
 
-template <typename Make, typename Operation>
-Need need_of(const Make& make, const Operation& operation) {
-  auto subject = make();
-  Need need;
-  need.allocations =
-      Allocations::made_by([&] { need.outcome = outcome_of([&] { operation(subject); }); });
-  return need;
-}
+template <typename Make, typename Operation, typename Check>
+class AttemptOf final : public Attempt {
+ public:
+  AttemptOf(const Make& make, const Operation& operation, const Check& check)
+      : make_(make), operation_(operation), check_(check) {}
 
-// Makes a subject and runs `operation` on it with the 1st, 2nd, ... allocation failing, and with
-// all from the 1st, 2nd, ... on, until it has all that it needs. After each run without memory
-// `check` sees the subject; then it is assigned a new one, where its class can be, and destroyed.
-// Nothing may leak.
+  void make() override { subject_.reset(new Subject(make_())); }
+  void operate() override { operation_(*subject_); }
+  void check() override { check_(*subject_); }
+  void end() override {
+    if constexpr (std::is_copy_assignable_v<Subject>)
+      *subject_ = static_cast<const Subject&>(make_());
+    subject_.reset();
+  }
+
+ private:
+  using Subject = std::invoke_result_t<const Make&>;
+
+  const Make& make_;
+  const Operation& operation_;
+  const Check& check_;
+  std::unique_ptr<Subject> subject_;
+};
+
 template <typename Make, typename Operation, typename Check>
 void exhaust(const Make& make, const Operation& operation, const Check& check,
              Failing as = Failing::AsBadAlloc) {
-  const Need need = need_of(make, operation);
-  for (const bool only_one : {true, false}) {
-    for (long failing = 1; failing <= need.allocations + 1; ++failing) {
-      SCOPED_TRACE("without allocation " + std::to_string(failing) + (only_one ? " only" : " on"));
-      const long live = Allocations::counters().live();
-      {
-        auto subject = make();
-        Outcome outcome = Outcome::Done;
-        ++runs;
-        {
-          const Allocations::Failure failure(failing, only_one);
-          outcome = outcome_of([&] { operation(subject); });
-        }
-        EXPECT_TRUE(need.allows(outcome, failing, as)) << outcome;
-        if (outcome == Outcome::NoMemory) check(subject);
-        if constexpr (std::is_copy_assignable_v<decltype(subject)>)
-          subject = static_cast<const decltype(subject)&>(make());
-      }
-      EXPECT_EQ(live, Allocations::counters().live());
-    }
-  }
+  AttemptOf<Make, Operation, Check> attempt(make, operation, check);
+  exhaust(attempt, as);
 }
 
 }  // namespace Korvane::MemoryTests
