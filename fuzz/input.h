@@ -26,6 +26,12 @@ class Input {
     return value;
   }
 
+  // Whether a sequence of operations goes on: up to a length that is worth its time.
+  bool has_operation() { return size_ != 0 && operations_++ < 12; }
+
+  // Below `count`.
+  unsigned int take_below(unsigned int count) { return take<std::uint8_t>() % count; }
+
   bool take_bool() { return (take<std::uint8_t>() & 1) != 0; }
 
   // A rate, most often a supported one.
@@ -40,6 +46,7 @@ class Input {
  private:
   const std::uint8_t* data_;
   std::size_t size_;
+  int operations_ = 0;
 };
 
 // Ends the run when `holds` is false: a finding.

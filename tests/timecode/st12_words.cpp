@@ -1,0 +1,147 @@
+// Words of SMPTE ST 12 of 32 bits, valid or not, at every rate: which ones are refused and why, and
+// what the others say, against a plain reading of their fields.
+//
+//   st12_words STRIDE [THINNING]
+//
+// Of each STRIDE successive words one is read, drawn at random but the same in each run; 1 reads
+// all. A refusal costs many times as much as a reading, so of the words that are to be refused only
+// each THINNING-th may be read.
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <random>
+#include <vector>
+
+#include "core/exception.h"
+#include "support/naive_timecode.h"
+
+namespace Korvane {
+namespace {
+
+constexpr unsigned long long kWords = 1ULL << 32;
+constexpr unsigned short kRates[] = {24, 25, 30, 50, 60};
+
+struct Fields {
+  Naive::Label label;  // the frames as in the word
+  bool drop;
+  bool field_mark;
+};
+
+int field(unsigned int word, int units_bit, int tens_bits) {
+  const unsigned int units = word >> units_bit & 0xF;
+  const unsigned int tens = word >> (units_bit + 4) & ((1U << tens_bits) - 1);
+  return static_cast<int>(tens * 10 + units);
+}
+
+Fields fields_of(unsigned short rate, unsigned int word) {
+  const bool pairs = rate == 50 || rate == 60;
+  return {{field(word, 24, 2), field(word, 16, 3), field(word, 8, 3), field(word, 0, 2)},
+          (rate == 30 || rate == 60) && (word & 0x40) != 0,
+          pairs && (word & (rate == 50 ? 0x80000000 : 0x8000)) != 0};
+}
+
+// Null for a word that is to be accepted.
+const char* expected_refusal(unsigned short rate, const Fields& fields) {
+  const Naive::Label& label = fields.label;
+  if (label.hours > 24) return "Hours cannot be lower than 0 and higher than 24.";
+  if (label.minutes > 59) return "Minutes cannot be lower than 0 and higher than 59.";
+  if (label.seconds > 59) return "Seconds cannot be lower than 0 and higher than 59.";
+  if (label.frame >= (rate > 30 ? rate / 2 : rate))
+    return "Frames cannot be lower than 0 and higher than the frame rate value.";
+  if (fields.drop && label.minutes % 10 != 0 && label.seconds == 0 && label.frame <= 1)
+    return "Frames 0 and 1 not valid on minutes non-divisable per 10 for drop frame rates.";
+  return nullptr;
+}
+
+// The plain reading of the words of one rate.
+class Reading {
+ public:
+  explicit Reading(unsigned short rate) : rate_(rate) {
+    for (const Naive::Counting& counting : Naive::kCountings)
+      if (counting.rate == rate) ways_.push_back({counting, Naive::Minutes(counting)});
+  }
+
+  bool is_right(const Fields& fields, const Timecode& timecode) const {
+    const Way& way = ways_[fields.drop ? 1 : 0];
+    Naive::Frame frame;
+    frame.label = fields.label;
+    if (Naive::counts_pairs(way.counting))
+      frame.label.frame = fields.label.frame * 2 + (fields.field_mark ? 1 : 0);
+    frame.count = way.minutes.count_at(frame.label);
+    frame.absolute = frame.count;  // not wrapped: hour 24 stays
+    return Naive::same(way.counting, frame, timecode);
+  }
+
+  unsigned short rate() const { return rate_; }
+
+ private:
+  struct Way {
+    Naive::Counting counting;
+    Naive::Minutes minutes;
+  };
+
+  unsigned short rate_;
+  std::vector<Way> ways_;  // without drop-frame, then with it
+};
+
+struct Tally {
+  unsigned long long accepted = 0;
+  unsigned long long refused = 0;
+  unsigned long long wrong = 0;
+};
+
+bool reads_right(const Reading& reading, const Fields& fields, const char* refusal,
+                 unsigned int word) {
+  try {
+    const Timecode timecode(reading.rate(), word);
+    return refusal == nullptr && reading.is_right(fields, timecode);
+  } catch (const Exception& exception) {
+    return refusal != nullptr && exception.code() == InvalidArgument &&
+           std::strcmp(exception.message(), refusal) == 0;
+  }
+}
+
+// A word of each block of `stride`, the refused ones when their number is a multiple of `thinning`.
+Tally read_words(const Reading& reading, unsigned int stride, unsigned int thinning) {
+  std::mt19937 random(20010921);
+  Tally tally;
+  unsigned long long candidates = 0;
+  for (unsigned long long block = 0; block < kWords; block += stride) {
+    const unsigned long long place = block + (stride > 1 ? random() % stride : 0);
+    if (place >= kWords) continue;
+    const auto word = static_cast<unsigned int>(place);
+    const Fields fields = fields_of(reading.rate(), word);
+    const char* const refusal = expected_refusal(reading.rate(), fields);
+    if (refusal != nullptr && candidates++ % thinning != 0) continue;
+    ++(refusal != nullptr ? tally.refused : tally.accepted);
+    if (reads_right(reading, fields, refusal, word)) continue;
+    if (++tally.wrong <= 10) std::printf("wrong at %u: %08X\n", +reading.rate(), word);
+  }
+  return tally;
+}
+
+int run(unsigned int stride, unsigned int thinning) {
+  unsigned long long wrong = 0;
+  for (const unsigned short rate : kRates) {
+    const Tally tally = read_words(Reading(rate), stride, thinning);
+    std::printf("rate %u: %llu accepted, %llu refused, %llu wrong\n", +rate, tally.accepted,
+                tally.refused, tally.wrong);
+    std::fflush(stdout);
+    wrong += tally.wrong;
+  }
+  return wrong == 0 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
+
+}  // namespace
+}  // namespace Korvane
+
+int main(int argc, char** argv) {
+  const long stride = argc > 1 ? std::atol(argv[1]) : 0;
+  const long thinning = argc > 2 ? std::atol(argv[2]) : 1;
+  if (argc > 3 || stride < 1 || stride > 1L << 24 || thinning < 1) {
+    std::fputs("usage: st12_words STRIDE [THINNING]\n", stderr);
+    return 2;
+  }
+  return Korvane::run(static_cast<unsigned int>(stride), static_cast<unsigned int>(thinning));
+}
