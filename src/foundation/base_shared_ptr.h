@@ -8,10 +8,10 @@
 #define KV_ENGINE_FOUNDATION_BASE_SHARED_PTR_H
 
 #include <boost/thread/lock_types.hpp>
-#include <boost/thread/mutex.hpp>
 #include <memory>
 
 #include "foundation/ref_count.h"
+#include "foundation/shares_mutex.h"
 
 namespace Korvane::Utils {
 
@@ -26,6 +26,7 @@ class BaseSharedPtr {
     if (mutex_ == nullptr) return;
     const Lock lock(*mutex_);
     count_->increment();
+    mutex_->enter();
   }
 
   BaseSharedPtr& operator=(const BaseSharedPtr&) = delete;
@@ -40,10 +41,8 @@ class BaseSharedPtr {
     const unsigned int count = count_->decrement();
     lock.unlock();
     lock.release();
-    if (count == 0) {
-      delete object_;
-      delete mutex_;
-    }
+    if (count == 0) delete object_;
+    mutex_->leave(count == 0);
     object_ = nullptr;
     count_ = nullptr;
     mutex_ = nullptr;
@@ -68,14 +67,14 @@ class BaseSharedPtr {
 
   void hold(T* object) {
     auto count = std::make_unique<RefCount>();
-    mutex_ = new boost::mutex;
+    mutex_ = new SharesMutex;
     count_ = count.release();
     object_ = object;
   }
 
   T* object_ = nullptr;
   RefCount* count_ = nullptr;
-  boost::mutex* mutex_ = nullptr;
+  SharesMutex* mutex_ = nullptr;
 };
 
 // A new Impl with the first share of `object`, which is deleted on failure.

@@ -3,11 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <barrier>
 #include <random>
 #include <thread>
 #include <vector>
 
+#include "support/rendezvous.h"
 #include "support/watched.h"
 
 namespace Korvane {
@@ -53,15 +53,13 @@ TEST(HandleThreads, EveryObjectIsDestroyedOnceAndNotBeforeItsLastHandle) {
   std::array<Handles, kThreads> shared;
   // Between rounds the objects are replaced; the threads themselves let the old ones go, all at
   // once.
-  const auto new_objects = [&]() noexcept {
+  Rendezvous start(kThreads, [&] {
     for (unsigned int object = 0; object < kObjects; ++object) {
-      // NOLINTNEXTLINE(bugprone-unhandled-exception-at-new): without memory the test may end
       const Media::FramePtr handle(new WatchedFrame(shared_watch));
       for (Handles& handles : shared) handles[object] = handle;
     }
-  };
-  std::barrier start(kThreads, new_objects);
-  std::barrier finish(kThreads, [&]() noexcept {
+  });
+  Rendezvous finish(kThreads, [&] {
     // Every thread still has its handle to each object.
     EXPECT_EQ(static_cast<long>(kObjects), shared_watch.alive());
   });
