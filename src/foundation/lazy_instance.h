@@ -14,7 +14,7 @@ namespace Korvane {
 template <typename T>
 class LazyInstance {
  public:
-  LazyInstance() { new (&mutex) boost::mutex; }
+  LazyInstance() noexcept { new (&mutex) boost::mutex; }
   LazyInstance(const LazyInstance&) = delete;
   LazyInstance& operator=(const LazyInstance&) = delete;
   ~LazyInstance() {}  // NOLINT(modernize-use-equals-default): not the mutex, see below

@@ -6,8 +6,7 @@ IUmidInfo::IUmidInfo() = default;
 
 IUmidInfo::IUmidInfo(const IUmidInfo& /*other*/) {}
 
-// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): there is nothing to assign
-IUmidInfo& IUmidInfo::operator=(const IUmidInfo& /*other*/) { return *this; }
+IUmidInfo& IUmidInfo::operator=(const IUmidInfo&) = default;
 
 IUmidInfo::~IUmidInfo() = default;
 

@@ -10,12 +10,16 @@ namespace Korvane {
 namespace {
 
 // "00", "01" ... "99". Longer than it need be, so that no byte lies outside.
-constexpr auto kTwoDigits = [] {
-  std::array<std::array<char, 2>, 256> all{};
+using TwoDigits = std::array<std::array<char, 2>, 256>;
+
+consteval TwoDigits two_digits() {
+  TwoDigits all{};
   for (std::size_t i = 0; i < all.size(); ++i)
     all[i] = {static_cast<char>('0' + i / 10 % 10), static_cast<char>('0' + i % 10)};
   return all;
-}();
+}
+
+constexpr TwoDigits kTwoDigits = two_digits();
 
 // Two digits. Returns the end of what it wrote.
 char* write_number(unsigned char value, char* out) {

@@ -6,8 +6,7 @@ TimecodeListener::TimecodeListener() = default;
 
 TimecodeListener::TimecodeListener(const TimecodeListener& /*other*/) {}
 
-// NOLINTNEXTLINE(bugprone-unhandled-self-assignment): there is nothing to assign
-TimecodeListener& TimecodeListener::operator=(const TimecodeListener& /*other*/) { return *this; }
+TimecodeListener& TimecodeListener::operator=(const TimecodeListener&) = default;
 
 TimecodeListener::~TimecodeListener() = default;
 
