@@ -1,0 +1,130 @@
+// The operations that a host calls for every frame, one at a time, for a tool that counts
+// instructions (scripts/checks/speed):
+//
+//   per_frame                  prints their names
+//   per_frame NAME TIMES       runs one of them
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+
+#include "kv_engine.h"
+
+namespace Korvane {
+namespace {
+
+constexpr long long kStart = 1234567;  // 11:26:33;21 at 30 drop-frame
+
+// What is answered goes here, so that no call is left out.
+volatile unsigned long long sink;
+
+Timecode start() { return {30, kStart, true}; }
+
+void construct_from_label(long times) {
+  for (long i = 0; i < times; ++i) sink = Timecode(30, 11, 26, 33, 21, true, false).frame_count();
+}
+
+void construct_from_count(long times) {
+  for (long i = 0; i < times; ++i) sink = Timecode(30, kStart + i, true).frame_count();
+}
+
+void construct_from_word(long times) {
+  const unsigned int word = start().to_12m();
+  for (long i = 0; i < times; ++i) sink = Timecode(30, word).frame_count();
+}
+
+void copy(long times) {
+  const Timecode original = start();
+  for (long i = 0; i < times; ++i) sink = Timecode(original).frame_count();
+}
+
+void step(long times) {
+  Timecode timecode = start();
+  for (long i = 0; i < times; ++i) ++timecode;
+}
+
+void step_back(long times) {
+  Timecode timecode = start();
+  for (long i = 0; i < times; ++i) --timecode;
+}
+
+void add(long times) {
+  Timecode timecode = start();
+  for (long i = 0; i < times; ++i) timecode.add(1001);
+}
+
+void print(long times) {
+  Timecode timecode = start();
+  for (long i = 0; i < times; ++i)
+    sink = static_cast<unsigned char>(
+        timecode.c_str(Timecode::DropFrameSemicolon, Timecode::FieldMarkDotSuffix)[10]);
+}
+
+void parse(long times) {
+  for (long i = 0; i < times; ++i)
+    sink = TimecodeUtils::load_timecode_from_string(30, "11:26:33;21", Timecode::DropFrameSemicolon,
+                                                    Timecode::FieldMarkDotSuffix)
+               .frame_count();
+}
+
+void pack(long times) {
+  const Timecode timecode = start();
+  for (long i = 0; i < times; ++i) sink = timecode.to_12m();
+}
+
+void pack_full(long times) {
+  const Timecode timecode = start();
+  for (long i = 0; i < times; ++i) sink = timecode.to_12m_full();
+}
+
+struct Frame final : Media::IFrame {
+  unsigned long long number() const override { return 0; }
+  Rational32 edit_rate() const override { return {25, 1}; }
+  const Timecode* timecode() const override { return nullptr; }
+  long long capture_time() const override { return 0; }
+  bool is_discontinuous() const override { return false; }
+  bool is_repeated() const override { return false; }
+  Korvane::size_t sample_count() const override { return 0; }
+  Media::MediaSampleSharedPtr sample_at(Korvane::size_t /*index*/) const override { return {}; }
+  const Media::TrackDescriptor* descriptor_at(Korvane::size_t /*index*/) const override {
+    return nullptr;
+  }
+};
+
+void share(long times) {
+  const Media::FramePtr held(new Frame);
+  for (long i = 0; i < times; ++i) sink = Media::FramePtr(held).get() != nullptr;
+}
+
+struct Operation {
+  const char* name;
+  void (*run)(long times);
+};
+
+constexpr Operation kOperations[] = {
+    {"construct_from_label", construct_from_label},
+    {"construct_from_count", construct_from_count},
+    {"construct_from_word", construct_from_word},
+    {"copy", copy},
+    {"step", step},
+    {"step_back", step_back},
+    {"add", add},
+    {"print", print},
+    {"parse", parse},
+    {"pack", pack},
+    {"pack_full", pack_full},
+    {"share", share},
+};
+
+}  // namespace
+}  // namespace Korvane
+
+int main(int count, char** arguments) {
+  for (const Korvane::Operation& operation : Korvane::kOperations) {
+    if (count == 1) std::puts(operation.name);
+    if (count != 3 || std::strcmp(operation.name, arguments[1]) != 0) continue;
+    operation.run(std::atol(arguments[2]));
+    return EXIT_SUCCESS;
+  }
+  return count == 1 ? EXIT_SUCCESS : EXIT_FAILURE;
+}
