@@ -9,5 +9,7 @@ option(KV_BUILD_DOCS "Build the reference documentation with Doxygen" OFF)
 
 option(KV_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(KV_COVERAGE "Instrument for gcovr" OFF)
+option(KV_TEST_WHOLE_PROGRAMS
+  "Run each test program once, not once for each of its tests: quicker where programs start slowly" OFF)
 set(KV_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize=, e.g. address,undefined")
 set(KV_CORE_TARGET "" CACHE STRING "Another core library target in place of the kv_Core_r built here")
