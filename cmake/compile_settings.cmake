@@ -63,15 +63,10 @@ if(KV_SANITIZE)
   list(APPEND kv_instrumentation -fsanitize=${KV_SANITIZE} -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
 endif()
-# The libraries are counted, the tests are not. Whether each condition decides on its own (MC/DC) is known
-# to clang from version 18 on.
+# The libraries are counted, the tests are not.
 set(kv_coverage_compile "")
 set(kv_coverage_link "")
-if(KV_COVERAGE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang")
-  set(kv_coverage_compile -fprofile-instr-generate -fprofile-update=atomic -fcoverage-mapping
-    -fcoverage-mcdc)
-  set(kv_coverage_link -fprofile-instr-generate)
-elseif(KV_COVERAGE)
+if(KV_COVERAGE)
   set(kv_coverage_compile --coverage -fprofile-update=atomic)
   set(kv_coverage_link --coverage)
 endif()

@@ -8,6 +8,6 @@ option(KV_BUILD_FUZZERS "Build the fuzz targets (clang only)" OFF)
 option(KV_BUILD_DOCS "Build the reference documentation with Doxygen" OFF)
 
 option(KV_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
-option(KV_COVERAGE "Count what runs, for scripts/coverage and scripts/fuzz-coverage" OFF)
+option(KV_COVERAGE "Count what runs, for scripts/coverage" OFF)
 set(KV_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize=, e.g. address,undefined")
 set(KV_CORE_TARGET "" CACHE STRING "Another core library target in place of the kv_Core_r built here")

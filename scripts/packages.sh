@@ -72,4 +72,3 @@ packages_tools=(libavformat-dev libavcodec-dev libavutil-dev libltc-dev
 packages_tests=(libgtest-dev librapidcheck-dev clang python3-jsonschema)
 packages_checks=(git clang-format clang-tidy googletest g++-mingw-w64-x86-64-posix wine64)
 packages_packing=(dpkg-dev fakeroot file lintian unzip g++-mingw-w64-x86-64-posix wine64)
-packages_coverage=(gcovr clang-19 libclang-rt-19-dev llvm-19)
