@@ -63,8 +63,12 @@ if(KV_SANITIZE)
   list(APPEND kv_instrumentation -fsanitize=${KV_SANITIZE} -fno-sanitize-recover=all
     -fno-omit-frame-pointer)
 endif()
+# The libraries are counted, the tests are not.
+set(kv_coverage_compile "")
+set(kv_coverage_link "")
 if(KV_COVERAGE)
-  list(APPEND kv_instrumentation --coverage -fprofile-update=atomic)
+  set(kv_coverage_compile --coverage -fprofile-update=atomic)
+  set(kv_coverage_link --coverage)
 endif()
 
 function(kv_compile_settings target)
@@ -80,13 +84,14 @@ function(kv_compile_settings target)
     $<$<BOOL:${KV_WARNINGS_AS_ERRORS}>:-Werror> ${kv_hardening_compile} ${kv_same_bytes_compile}
     ${kv_instrumentation})
   target_link_options(${target} PRIVATE ${kv_hardening_link} ${kv_same_bytes_link}
-    ${kv_instrumentation})
+    ${kv_instrumentation} ${kv_coverage_link})
 endfunction()
 
 # kv_shared_library(<target>): a library that we ship. Nothing but our own interface is visible: by the
 # version script cmake/<target>.map on ELF, by the list of names cmake/<target>.exports on Windows.
 function(kv_shared_library target)
   kv_compile_settings(${target})
+  target_compile_options(${target} PRIVATE ${kv_coverage_compile})
   set_target_properties(${target} PROPERTIES
     VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
   if(WIN32)

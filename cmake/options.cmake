@@ -8,7 +8,7 @@ option(KV_BUILD_FUZZERS "Build the fuzz targets (clang only)" OFF)
 option(KV_BUILD_DOCS "Build the reference documentation with Doxygen" OFF)
 
 option(KV_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
-option(KV_COVERAGE "Instrument for gcovr" OFF)
+option(KV_COVERAGE "Count what runs, for scripts/coverage" OFF)
 option(KV_TEST_WHOLE_PROGRAMS
   "Run each test program once, not once for each of its tests: quicker where programs start slowly" OFF)
 set(KV_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize=, e.g. address,undefined")

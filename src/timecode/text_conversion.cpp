@@ -9,36 +9,36 @@ namespace Korvane {
 namespace {
 
 template <typename Unit>
-bool fits_converter(const std::basic_string<Unit>& text) {
+bool fits_converter(std::basic_string_view<Unit> text) {
   return text.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max());
 }
 
 // Query the length, make room, convert. Too long a text counts as a failed query.
 template <typename To, typename From>
-std::basic_string<To> convert(const std::basic_string<From>& text,
+std::basic_string<To> convert(std::basic_string_view<From> text,
                               int (*function)(const From*, int, To*, int), const char* query_failed,
                               const char* length_differs) {
   if (text.empty()) return {};
   const bool fits = fits_converter(text);
   const int size = fits ? static_cast<int>(text.size()) : 0;
   const int length = fits ? function(text.data(), size, nullptr, 0) : 0;
-  if (length <= 0) exception_throw(StringConversionFailed, query_failed, true);
+  exception_enforce(length > 0, StringConversionFailed, query_failed, true);
 
   std::basic_string<To> result(static_cast<std::size_t>(length), To());
   const int converted = function(text.data(), size, result.data(), length);
-  if (converted != length) exception_throw(StringConversionFailed, length_differs, true);
+  exception_enforce(converted == length, StringConversionFailed, length_differs, true);
   return result;
 }
 
 }  // namespace
 
-std::wstring utf8_to_wide(const std::string& text, const TextConverter& converter) {
+std::wstring utf8_to_wide(std::string_view text, const TextConverter& converter) {
   // The second text has always been the one of the other direction; callers may rely on it.
   return convert<wchar_t>(text, converter.to_wide, "Unable to convert from string to wstring",
                           "Unable to convert from wstring to string");
 }
 
-void assign_utf8(std::wstring& result, const std::string& text) {
+void assign_utf8(std::wstring& result, std::string_view text) {
   const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
   if (!fits_converter(text) || !std::all_of(text.begin(), text.end(), is_ascii)) {
     result = utf8_to_wide(text);
@@ -48,7 +48,7 @@ void assign_utf8(std::wstring& result, const std::string& text) {
   std::copy(text.begin(), text.end(), result.begin());
 }
 
-std::string wide_to_utf8(const std::wstring& text, const TextConverter& converter) {
+std::string wide_to_utf8(std::wstring_view text, const TextConverter& converter) {
   return convert<char>(text, converter.to_utf8, "Unable to convert from wstring to string",
                        "Unable to convert from wstring to string");
 }

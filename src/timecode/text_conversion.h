@@ -5,6 +5,7 @@
 #define KV_ENGINE_SRC_TIMECODE_TEXT_CONVERSION_H
 
 #include <string>
+#include <string_view>
 
 namespace Korvane {
 
@@ -21,15 +22,15 @@ const TextConverter& platform_text_converter();
 
 // Raises StringConversionFailed "Unable to convert from string to wstring" when the length query
 // fails, and "Unable to convert from wstring to string" when the converted length is another.
-std::wstring utf8_to_wide(const std::string& text,
+std::wstring utf8_to_wide(std::string_view text,
                           const TextConverter& converter = platform_text_converter());
 
 // As utf8_to_wide, into the room that `result` has where `text` is ASCII. On failure `result`
 // stays.
-void assign_utf8(std::wstring& result, const std::string& text);
+void assign_utf8(std::wstring& result, std::string_view text);
 
 // Raises StringConversionFailed "Unable to convert from wstring to string" in both cases.
-std::string wide_to_utf8(const std::wstring& text,
+std::string wide_to_utf8(std::wstring_view text,
                          const TextConverter& converter = platform_text_converter());
 
 }  // namespace Korvane

@@ -111,11 +111,9 @@ void TimecodeState::normalize(bool wrap) {
                         : normalize_at<30, false>(*this, wrap);
     case 50:
       return normalize_at<50, false>(*this, wrap);
-    case 60:
+    default:  // 60: validate_rate() has refused every other
       return drop_frame ? normalize_at<60, true>(*this, wrap)
                         : normalize_at<60, false>(*this, wrap);
-    default:
-      return;  // refused by validate()
   }
 }
 

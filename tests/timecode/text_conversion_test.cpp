@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "support/raises.h"
@@ -167,6 +168,19 @@ TEST(TextConversion, AnotherLengthThanQueriedRaisesTheTextOfTheOtherDirection) {
       raises(StringConversionFailed, kToNarrowMessage, [] { utf8_to_wide("x", kFailing<2, 0>); }));
   EXPECT_TRUE(
       raises(StringConversionFailed, kToNarrowMessage, [] { wide_to_utf8(L"x", kFailing<2, 3>); }));
+}
+
+// Refused before a unit of it is read, so there need be no such text.
+TEST(TextConversion, ATextOf2GibiIsAFailedLengthQuery) {
+  constexpr std::size_t kTooLong = std::size_t{1} << 31;
+  EXPECT_TRUE(raises(StringConversionFailed, kToWideMessage,
+                     [] { utf8_to_wide(std::string_view("x", kTooLong)); }));
+  EXPECT_TRUE(raises(StringConversionFailed, kToNarrowMessage,
+                     [] { wide_to_utf8(std::wstring_view(L"x", kTooLong)); }));
+  std::wstring kept = L"kept";
+  EXPECT_TRUE(raises(StringConversionFailed, kToWideMessage,
+                     [&kept] { assign_utf8(kept, std::string_view("x", kTooLong)); }));
+  EXPECT_EQ(L"kept", kept);
 }
 
 TEST(TextConversion, ThePlatformConverterRefusesTooLittleRoom) {

@@ -420,5 +420,12 @@ TEST(TimecodeCopy, MovingCopies) {
   EXPECT_EQ(10, source.frame_count());  // NOLINT(bugprone-use-after-move): that is the promise
 }
 
+TEST(Timecode, FramesWithoutFieldMarkCountTwoOfALabelAtDoubleRates) {
+  EXPECT_EQ(10, Timecode(25, 0, 0, 0, 10, false, false).frames_ignore_field_mark());
+  EXPECT_EQ(20, Timecode(50, 0, 0, 0, 10, false, false).frames_ignore_field_mark());
+  EXPECT_EQ(21, Timecode(50, 0, 0, 0, 10, false, true).frames_ignore_field_mark());
+  EXPECT_EQ(58, Timecode(60, 0, 0, 0, 29, false, false).frames_ignore_field_mark());
+}
+
 }  // namespace
 }  // namespace Korvane
