@@ -40,7 +40,6 @@ class BaseSharedPtr {
     lock.lock();
     const unsigned int count = count_->decrement();
     lock.unlock();
-    lock.release();
     if (count == 0) delete object_;
     mutex_->leave(count == 0);
     object_ = nullptr;

@@ -26,9 +26,15 @@ inline int run_self(const std::string& argument) {
   STARTUPINFOA startup = {};
   startup.cb = sizeof(startup);
   PROCESS_INFORMATION process = {};
-  if (CreateProcessA(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr,
-                     &startup, &process) == 0)
-    throw std::runtime_error("cannot start " + command);
+  // Wine under load may refuse a process and take it a moment later.
+  for (int tries = 1; CreateProcessA(program, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                                     nullptr, &startup, &process) == 0;
+       ++tries) {
+    if (tries == 10)
+      throw std::runtime_error("cannot start " + command + ", error " +
+                               std::to_string(GetLastError()));
+    Sleep(100);
+  }
   DWORD code = 0;
   WaitForSingleObject(process.hProcess, INFINITE);
   GetExitCodeProcess(process.hProcess, &code);
