@@ -56,7 +56,15 @@ TEST(ScanNumber, WithoutADigitNothingIsRead) {
   }
 }
 
-void expect_label(const ScannedLabel& expected, const char* text) {
+// What a label has when no more than this was read.
+struct ReadSoFar {
+  int items = 0;
+  long long hours = 0, minutes = 0, seconds = 0;
+  char separator = '\0';
+  long long frames = 0, field = 0;
+};
+
+void expect_label(const ReadSoFar& expected, const char* text) {
   SCOPED_TRACE(text);
   const ScannedLabel scanned = scan_label(text);
   EXPECT_EQ(expected.items, scanned.items);
