@@ -9,7 +9,7 @@ namespace Korvane::Media {
 struct SdpConfigPrivate {
   SdpType type;
   std::wstring ip_address;
-  int port = 0;
+  int port;
 };
 
 SdpConfig::SdpConfig(SdpType type) : private_(new SdpConfigPrivate{type, {}, 0}) {}

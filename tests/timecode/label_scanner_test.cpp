@@ -22,9 +22,13 @@ constexpr NumberCase kNumbers[] = {
     {" \t\n\v\f\r-7", -7, ""},
     {"+7", 7, ""},
     {"0x10", 0, "x10"},
+    {"9000000000000000001", 9000000000000000001, ""},
+    {"9223372036854775800", LLONG_MAX - 7, ""},
     {"9223372036854775807", LLONG_MAX, ""},
     {"9223372036854775808", LLONG_MAX, ""},
     {"99999999999999999999999", LLONG_MAX, ""},
+    {"-9000000000000000001", -9000000000000000001, ""},
+    {"-9223372036854775800", -LLONG_MAX + 7, ""},
     {"-9223372036854775807", -LLONG_MAX, ""},
     {"-9223372036854775808", LLONG_MIN, ""},
     {"-9223372036854775809", LLONG_MIN, ""},
@@ -50,6 +54,38 @@ TEST(ScanNumber, WithoutADigitNothingIsRead) {
     EXPECT_EQ(99, value);
     EXPECT_EQ(text, next);
   }
+}
+
+// What a label has when no more than this was read.
+struct ReadSoFar {
+  int items = 0;
+  long long hours = 0, minutes = 0, seconds = 0;
+  char separator = '\0';
+  long long frames = 0, field = 0;
+};
+
+void expect_label(const ReadSoFar& expected, const char* text) {
+  SCOPED_TRACE(text);
+  const ScannedLabel scanned = scan_label(text);
+  EXPECT_EQ(expected.items, scanned.items);
+  EXPECT_EQ(expected.hours, scanned.hours);
+  EXPECT_EQ(expected.minutes, scanned.minutes);
+  EXPECT_EQ(expected.seconds, scanned.seconds);
+  EXPECT_EQ(expected.separator, scanned.separator);
+  EXPECT_EQ(expected.frames, scanned.frames);
+  EXPECT_EQ(expected.field, scanned.field);
+}
+
+TEST(ScanLabel, EndsAtTheFirstMismatch) {
+  for (const char* const text : {"", "x", ":1"}) expect_label({}, text);
+  for (const char* const text : {"1", "1;2", "1:", "1:x"}) expect_label({1, 1}, text);
+  for (const char* const text : {"1:2", "1:2.3", "1:2:", "1:2:x"}) expect_label({2, 1, 2}, text);
+  expect_label({3, 1, 2, 3}, "1:2:3");
+  for (const char* const text : {"1:2:3;", "1:2:3;x"}) expect_label({4, 1, 2, 3, ';'}, text);
+  for (const char* const text : {"1:2:3;4", "1:2:3;4:5", "1:2:3;4.", "1:2:3;4.x"})
+    expect_label({5, 1, 2, 3, ';', 4}, text);
+  for (const char* const text : {"1:2:3x4.5", "1:2:3x4.5.6"})
+    expect_label({6, 1, 2, 3, 'x', 4, 5}, text);
 }
 
 // The C library's own scan, on numbers that fit 64 bits, where all C libraries agree.

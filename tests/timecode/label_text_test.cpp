@@ -24,6 +24,15 @@ std::string expand_by_regex(const TimecodeState& state, std::string text) {
   return std::regex_replace(text, std::regex("%FF"), two_digits(state.frames));
 }
 
+TEST(ExpandPattern, LeavesWhatIsNoToken) {
+  TimecodeState state(30, false);
+  state.hours = 1;
+  for (const char* const pattern : {"xHH", "HHH", "%", "%H", "%HM", "%hh", "%XX", "%%H", ""})
+    EXPECT_EQ(pattern, expand_pattern(state, pattern));
+  EXPECT_EQ("%01H", expand_pattern(state, "%%HHH"));
+  EXPECT_EQ("0101%H", expand_pattern(state, "%HH%HH%H"));
+}
+
 TEST(ExpandPattern, EqualsFourRegexReplacements) {
   std::mt19937 random(1);  // NOLINT(cert-msc51-cpp): repeatable
   const std::string pieces[] = {"%HH", "%MM", "%SS", "%FF", "%", "%%", "H", "M",   "S", "F",

@@ -37,16 +37,31 @@ const Decoding kDecodings[] = {
     {"\xE0\xA0\x80", {0x800}},
     {"\xE2\x82\xAC", {0x20AC}},
     {"\xED\x9F\xBF", {0xD7FF}},
+    {"\xED\x80\x80", {0xD000}},
     {"\xEE\x80\x80", {0xE000}},
+    {"\xEE\xBF\xBF", {0xEFFF}},
     {"\xEF\xBF\xBD", {0xFFFD}},
     {"\xEF\xBF\xBF", {0xFFFF}},
     {"\xF0\x90\x80\x80", {0xD800, 0xDC00}},
     {"\xF0\x9F\x98\x80", {0xD83D, 0xDE00}},
+    {"\xF1\x80\x80\x80", {0xD8C0, 0xDC00}},
+    {"\xF3\xBF\xBF\xBF", {0xDBBF, 0xDFFF}},
+    {"\xF4\x80\x80\x80", {0xDBC0, 0xDC00}},
     {"\xF4\x8F\xBF\xBF", {0xDBFF, 0xDFFF}},
     // A lone continuation, an impossible byte.
     {"\x80", {0xFFFD}},
     {"\xBF\x41", {0xFFFD, 0x41}},
     {"\xFE\xFF", {0xFFFD, 0xFFFD}},
+    // C0, which is no continuation, behind every kind of lead.
+    {"\xC2\xC0", {0xFFFD, 0xFFFD}},
+    {"\xE0\xC0", {0xFFFD, 0xFFFD}},
+    {"\xE1\xC0", {0xFFFD, 0xFFFD}},
+    {"\xED\xC0", {0xFFFD, 0xFFFD}},
+    {"\xEE\xC0", {0xFFFD, 0xFFFD}},
+    {"\xF0\xC0", {0xFFFD, 0xFFFD}},
+    {"\xF1\xC0", {0xFFFD, 0xFFFD}},
+    {"\xF4\xC0", {0xFFFD, 0xFFFD}},
+    {"\xE2\x82\xC0", {0xFFFD, 0xFFFD}},
     // Cut short, at the end and before other text.
     {"\xC2", {0xFFFD}},
     {"\xC2\x41", {0xFFFD, 0x41}},
@@ -82,6 +97,17 @@ TEST(Utf8ToWide, WellFormedAndIllFormedText) {
   }
 }
 
+TEST(AssignUtf8, AsciiAndOtherText) {
+  std::wstring result = L"before";
+  for (const Decoding& one : kDecodings) {
+    SCOPED_TRACE(::testing::PrintToString(one.utf8));
+    assign_utf8(result, one.utf8);
+    EXPECT_EQ(wide(one.utf16), result);
+  }
+  assign_utf8(result, "");
+  EXPECT_EQ(L"", result);
+}
+
 struct Encoding {
   std::vector<unsigned int> utf16;
   std::string utf8;
@@ -106,6 +132,7 @@ const Encoding kEncodings[] = {
     {{0xDC00, 0x41}, "\xEF\xBF\xBD\x41"},
     {{0xDBFF, 0xE000}, "\xEF\xBF\xBD\xEE\x80\x80"},
     {{0xDFFF, 0xD800}, "\xEF\xBF\xBD\xEF\xBF\xBD"},
+    {{0xDC00, 0xDC00}, "\xEF\xBF\xBD\xEF\xBF\xBD"},
     {{0xD800, 0xD800, 0xDC00}, "\xEF\xBF\xBD\xF0\x90\x80\x80"},
     {{0xD800, 0xDC00, 0xDC00}, "\xF0\x90\x80\x80\xEF\xBF\xBD"},
 };
@@ -189,6 +216,16 @@ TEST(TextConversion, ThePlatformConverterRefusesTooLittleRoom) {
   char bytes[2] = {};
   EXPECT_GE(0, converter.to_wide("ab", 2, units, 1));
   EXPECT_GE(0, converter.to_utf8(L"abc", 3, bytes, 2));
+}
+
+TEST(TextConversion, ThePlatformConverterReadsNoFurtherThanTold) {
+  const TextConverter& converter = platform_text_converter();
+  wchar_t units[2] = {};
+  char bytes[4] = {};
+  EXPECT_EQ(1, converter.to_wide("\xC3\xA4", 1, units, 2));
+  EXPECT_EQ(wide({0xFFFD}), std::wstring(units));
+  EXPECT_EQ(3, converter.to_utf8(wide({0xD83D, 0xDE00}).c_str(), 1, bytes, 4));
+  EXPECT_STREQ("\xEF\xBF\xBD", bytes);
 }
 
 }  // namespace

@@ -81,6 +81,17 @@ TEST(TimecodeStep, LabelsAndWordsStepAsTheirCounts) {
   }
 }
 
+TEST(TimecodeStep, ALabelStepsOverTheEndOf64BitsOnceAddingBroughtItThere) {
+  using Limits = std::numeric_limits<long long>;
+  for (const Counting& counting : kCountings) {
+    Timecode timecode(counting.rate, 0, 0, 0, 0, counting.drop_frame, false);
+    timecode.add(Limits::max());
+    ++timecode;
+    const Timecode fresh(counting.rate, Limits::min(), counting.drop_frame);
+    ASSERT_NO_FATAL_FAILURE(expect_same(fresh, timecode));
+  }
+}
+
 TEST(TimecodeStep, LeavesHour24OfAWord) {
   Timecode forth(25, 0x24000000U);
   ++forth;
