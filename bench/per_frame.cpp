@@ -9,6 +9,7 @@
 #include <cstring>
 
 #include "kv_engine.h"
+#include "support/watched.h"
 
 namespace Korvane {
 namespace {
@@ -77,22 +78,9 @@ void pack_full(long times) {
   for (long i = 0; i < times; ++i) sink = timecode.to_12m_full();
 }
 
-struct Frame final : Media::IFrame {
-  unsigned long long number() const override { return 0; }
-  Rational32 edit_rate() const override { return {25, 1}; }
-  const Timecode* timecode() const override { return nullptr; }
-  long long capture_time() const override { return 0; }
-  bool is_discontinuous() const override { return false; }
-  bool is_repeated() const override { return false; }
-  Korvane::size_t sample_count() const override { return 0; }
-  Media::MediaSampleSharedPtr sample_at(Korvane::size_t /*index*/) const override { return {}; }
-  const Media::TrackDescriptor* descriptor_at(Korvane::size_t /*index*/) const override {
-    return nullptr;
-  }
-};
-
 void share(long times) {
-  const Media::FramePtr held(new Frame);
+  Watch watch;
+  const Media::FramePtr held(new WatchedFrame(watch));
   for (long i = 0; i < times; ++i) sink = Media::FramePtr(held).get() != nullptr;
 }
 

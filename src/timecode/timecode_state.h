@@ -17,15 +17,15 @@ enum class Stepping : unsigned char {
 };
 
 struct TimecodeState {
-  unsigned short frame_rate = 0;
+  unsigned short frame_rate;
   long long frame_count = 0;
   long long to_first_day = 0;  // what brings the frame count into one day
-  bool drop_frame = false;
+  bool drop_frame;
   unsigned char hours = 0, minutes = 0, seconds = 0, frames = 0;
   bool field_mark = false;
   short days = 0;  // 0 in a copy until it is stepped
   Stepping stepping = Stepping::Derived;
-  unsigned char last_frame = 0;  // of a second of labels
+  unsigned char last_frame;  // of a second of labels
 
   // All zero. `drop` is kept only at rates that can drop frames.
   TimecodeState(unsigned short rate, bool drop)
