@@ -29,8 +29,8 @@ void write_to_standard_error(const char* text) {
   std::replace_if(
       line.begin(), line.end(), [](char c) { return c == '\n' || c == '\r'; }, ' ');
   line += '\n';
-  static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
-  static_cast<void>(std::fflush(stderr));
+  std::fwrite(line.data(), 1, line.size(), stderr);
+  std::fflush(stderr);
 }
 
 // Marks the sink as running, also when it leaves by an exception.

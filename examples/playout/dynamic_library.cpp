@@ -34,6 +34,7 @@ std::filesystem::path program() {
 void* open(const std::filesystem::path& path) {
   return dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL);
 }
+// NOLINTNEXTLINE(concurrency-mt-unsafe): each thread has a text of its own
 std::string reason(const std::filesystem::path& /*path*/) { return dlerror(); }
 void close(void* library) { dlclose(library); }
 void* find(void* library, const char* name) { return dlsym(library, name); }

@@ -19,7 +19,7 @@ class TemporaryFile {
 
  private:
   struct Closer {
-    void operator()(std::FILE* file) const { static_cast<void>(std::fclose(file)); }
+    void operator()(std::FILE* file) const { std::fclose(file); }
   };
   std::unique_ptr<std::FILE, Closer> file_;
 };
