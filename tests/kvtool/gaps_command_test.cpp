@@ -223,8 +223,15 @@ TEST(GapsCommand, FilesThatCannotBeReadAreBad) {
                  run_tool({"gaps", folder, "--rate", "25"}));
 }
 
+// Consecutive labels, parted by empty lines, for which each is looked at by itself.
+std::string labels_read_one_by_one(int count) {
+  std::string lines;
+  for (int i = 0; i < count; ++i) lines += "\n00:00:00:0" + std::to_string(i) + "\n";
+  return lines;
+}
+
 TEST(GapsCommand, ProgressAppearsAfterASecondAndIsErased) {
-  const ScratchFile list("00:00:00:00\n00:00:00:01\n00:00:00:02\n00:00:00:03\n");
+  const ScratchFile list(labels_read_one_by_one(4));
   const ToolResult result = run_slowly({"gaps", list.path(), "--rate", "25"}, "", true);
   const std::string line = "kvtool: " + list.path() + " [##############################] 100%";
   EXPECT_EQ(line + '\r' + std::string(line.size(), ' ') + '\r', result.err);
@@ -233,23 +240,19 @@ TEST(GapsCommand, ProgressAppearsAfterASecondAndIsErased) {
 }
 
 TEST(GapsCommand, ProgressTellsThePercentageOfAFile) {
-  const ScratchFile list(
-      "00:00:00:00\n00:00:00:01\n00:00:00:02\n00:00:00:03\n00:00:00:04\n00:00:00:05\n00:00:00:06\n"
-      "00:00:00:07\n");
+  const ScratchFile list(labels_read_one_by_one(8));
   const ToolResult result = run_slowly({"gaps", list.path(), "--rate", "25"}, "", true);
   EXPECT_NE(std::string::npos, result.err.find(" [###############...............] 50%\r"));
 }
 
 TEST(GapsCommand, ProgressCountsWhereTheSizeIsUnknown) {
-  const ToolResult result = run_slowly(
-      {"gaps", "--rate", "25"}, "00:00:00:00\n00:00:00:01\n00:00:00:02\n00:00:00:03\n", true);
+  const ToolResult result = run_slowly({"gaps", "--rate", "25"}, labels_read_one_by_one(4), true);
   const std::string line = "kvtool: standard input 4 timecodes";
   EXPECT_EQ(line + '\r' + std::string(line.size(), ' ') + '\r', result.err);
 }
 
 TEST(GapsCommand, ProgressShowsOnTerminalsOnly) {
-  const ToolResult result = run_slowly(
-      {"gaps", "--rate", "25"}, "00:00:00:00\n00:00:00:01\n00:00:00:02\n00:00:00:03\n", false);
+  const ToolResult result = run_slowly({"gaps", "--rate", "25"}, labels_read_one_by_one(4), false);
   EXPECT_EQ(0, result.code);
   EXPECT_EQ("", result.err);
 }

@@ -45,7 +45,7 @@ class GapFinder {
       else
         totals_.first = label(entry->value);
       previous_ = entry->value;
-      ++totals_.count;
+      totals_.count += 1 + source_.take_following(*previous_);
       progress_.update(source_.bytes_read(), totals_.count);
     }
     if (previous_) totals_.last = label(*previous_);

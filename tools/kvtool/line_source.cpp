@@ -7,41 +7,14 @@
 #include "reading.h"
 
 namespace Korvane::Tool {
-namespace {
-
-// What is longer is no timecode, and is not kept in full.
-constexpr std::size_t kLongestLine = 256;
-
-}  // namespace
 
 LineSource::LineSource(std::istream& in, std::string name, const Rate& rate, LineForm form,
                        bool read_field_mark)
-    : in_(in),
+    : reader_(in),
       name_(std::move(name)),
       rate_(rate),
       form_(form),
       read_field_mark_(read_field_mark) {}
-
-// Without the white space at its end. False at the end of the input.
-bool LineSource::read_line() {
-  constexpr int kEnd = std::char_traits<char>::eof();
-  std::streambuf& bytes = *in_.rdbuf();
-  int next = bytes.sbumpc();
-  if (next == kEnd) return false;
-  ++line_number_;
-  line_.clear();
-  for (; next != kEnd; next = bytes.sbumpc()) {
-    ++bytes_;
-    if (next == '\n') break;
-    const char c = std::char_traits<char>::to_char_type(next);
-    if (line_.size() < kLongestLine)
-      line_ += c;
-    else if (c != ' ' && c != '\r')
-      line_.back() = c;  // so that it does not pass for white space at the end
-  }
-  line_.erase(line_.find_last_not_of(" \t\r") + 1);
-  return true;
-}
 
 std::optional<Timecode> LineSource::timecode_of_line() const {
   switch (form_) {
@@ -69,12 +42,22 @@ std::string LineSource::refusal() const {
 
 std::optional<Entry> LineSource::next() {
   do {
-    if (!read_line()) return std::nullopt;
+    if (!reader_.read_line(whole_line_)) return std::nullopt;
+    ++line_number_;
+    line_.assign(whole_line_, 0, whole_line_.find_last_not_of(" \t\r\n") + 1);
   } while (line_.empty());
   const std::optional<Timecode> timecode = timecode_of_line();
   if (!timecode)
     throw InputError(position_text(printable_name(name_), unit(), line_number_) + ": " + refusal());
   return Entry{*timecode, line_number_};
+}
+
+unsigned long long LineSource::take_following(Timecode& last) {
+  if (form_ != LineForm::Label) return 0;
+  const FollowingLines::Found found = following_.find(reader_.ahead(), whole_line_, last);
+  reader_.skip(found.bytes);
+  line_number_ += found.lines;
+  return found.lines;
 }
 
 }  // namespace Korvane::Tool

@@ -4,9 +4,10 @@
 #define KV_TOOLS_KVTOOL_LINE_SOURCE_H
 
 #include <istream>
-#include <memory>
 #include <string>
 
+#include "following_lines.h"
+#include "line_reader.h"
 #include "rate.h"
 #include "timecode_source.h"
 
@@ -22,23 +23,24 @@ class LineSource : public TimecodeSource {
              bool read_field_mark);
 
   std::optional<Entry> next() override;
+  unsigned long long take_following(Timecode& last) override;
   unsigned short frame_rate() const override { return rate_.nominal; }
   const char* unit() const override { return "line"; }
-  unsigned long long bytes_read() const override { return bytes_; }
+  unsigned long long bytes_read() const override { return reader_.bytes_read(); }
 
  private:
-  bool read_line();
   std::optional<Timecode> timecode_of_line() const;
   std::string refusal() const;
 
-  std::istream& in_;
+  LineReader reader_;
+  FollowingLines following_;
   std::string name_;
   Rate rate_;
   LineForm form_;
   bool read_field_mark_;
-  std::string line_;
+  std::string whole_line_;  // with what stands at its end
+  std::string line_;        // without white space at its end
   unsigned long long line_number_ = 0;
-  unsigned long long bytes_ = 0;
 };
 
 }  // namespace Korvane::Tool

@@ -1,3 +1,5 @@
+#include <ext/stdio_filebuf.h>
+
 #include <iostream>
 
 #ifdef _WIN32
@@ -24,6 +26,11 @@ bool prepare_and_ask_terminal() {
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
-  Korvane::Tool::Streams streams{std::cin, std::cout, std::cerr, prepare_and_ask_terminal()};
+  // Standard input in blocks as large as what a pipe holds; std::cin takes an eighth of that at
+  // once.
+  constexpr std::size_t kBlock = 65536;
+  __gnu_cxx::stdio_filebuf<char> blocks(0, std::ios::in | std::ios::binary, kBlock);
+  std::istream in(&blocks);
+  Korvane::Tool::Streams streams{in, std::cout, std::cerr, prepare_and_ask_terminal()};
   return Korvane::Tool::run({argv + 1, argv + argc}, streams);
 }

@@ -23,6 +23,10 @@ class TimecodeSource {
   // Nothing at the end. Raises InputError for what is no timecode.
   virtual std::optional<Entry> next() = 0;
 
+  // Takes entries that follow `last`, the entry before, without a gap, as far as that is seen at a
+  // glance; there may be more. Returns how many; `last` becomes the last of them.
+  virtual unsigned long long take_following(Timecode& last);
+
   virtual unsigned short frame_rate() const = 0;
 
   // What positions count: "line", "frame", "sample".
