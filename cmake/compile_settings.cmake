@@ -66,7 +66,11 @@ endif()
 # The libraries are counted, the tests are not.
 set(kv_coverage_compile "")
 set(kv_coverage_link "")
-if(KV_COVERAGE)
+if(KV_COVERAGE AND CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  set(kv_coverage_compile -fprofile-instr-generate -fcoverage-mapping -fcoverage-mcdc
+    -fprofile-update=atomic)
+  set(kv_coverage_link -fprofile-instr-generate)
+elseif(KV_COVERAGE)
   set(kv_coverage_compile --coverage -fprofile-update=atomic)
   set(kv_coverage_link --coverage)
 endif()
