@@ -23,14 +23,17 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   Korvane::Input input(data, size);
   const unsigned short rate = input.take_rate();
   const auto field_mark = static_cast<Timecode::FieldMarkIndication>(input.take<std::uint8_t>());
+  const auto drop_frame = static_cast<Timecode::DropFrameIndication>(input.take_below(4) / 3);
   const std::string text = input.rest();
+  const char* const narrow = text.empty() ? nullptr : text.c_str();
   try {
-    check(load_timecode_from_string(rate, text.c_str(), Timecode::DropFrameSemicolon, field_mark));
+    check(load_timecode_from_string(rate, narrow, drop_frame, field_mark));
   } catch (const Korvane::Exception&) {
   }
-  const std::wstring wide(text.begin(), text.end());
+  const std::wstring letters(text.begin(), text.end());
+  const wchar_t* const wide = text.empty() ? nullptr : letters.c_str();
   try {
-    check(load_timecode_from_string(rate, wide.c_str(), Timecode::DropFrameSemicolon, field_mark));
+    check(load_timecode_from_string(rate, wide, drop_frame, field_mark));
   } catch (const Korvane::Exception&) {
   }
   return 0;
