@@ -345,8 +345,9 @@ class Singleton(Recorded):
     hidden = ("fallback",)
 
     def summary(self):
-        for _, pointer in self.parts():
-            return f"forwards to {class_at(pointer)}" if pointer else "forwards to nothing"
+        _, registered = next(self.parts())
+        return f"forwards to {class_at(registered)}" if registered else "forwards to nothing"
+
 
 class CoreException(Recorded):
     library = "kv_Core_r"

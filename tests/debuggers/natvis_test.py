@@ -1,5 +1,5 @@
 """For GDB, on the library: the natvis names types, casts and members that the debug information knows, and
-leaves out no exported class with a private record.
+leaves out no exported class with a private record, and never shows a password.
 
     gdb -batch -ex 'python arguments = [NATVIS, LAYOUT, CORE LIBRARY]' -x natvis_test.py LIBRARY
 """
@@ -62,7 +62,13 @@ def check_type(visualizer, name):
     except gdb.error as error:
         return [f"{name}: {error}"]
     errors = []
+    raw = [element for element in visualizer
+           if local(element) == "Expand" and element.get("HideRawView") != "true"]
+    if name.startswith("Korvane::Media::InterplayWebService") and raw:
+        errors.append(f"{name} shows the password in its raw view")
     for expression in expressions(visualizer):
+        if "password" in expression:
+            errors.append(f"{name} shows a password")
         try:
             gdb.execute("whatis " + in_gdb(expression, instance, argument), to_string=True)
         except gdb.error as error:
