@@ -63,3 +63,17 @@ file(GENERATE OUTPUT ${kv_pkgconfig_file} INPUT ${PROJECT_BINARY_DIR}/kv_Engine_
   TARGET kv_Engine_r)
 install(FILES ${kv_pkgconfig_file} DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig
   COMPONENT development)
+
+# How debuggers show the objects. GDB loads by itself what has the whole path of the library and stands in
+# its folder for such scripts, which is that of the system.
+set(kv_debuggers_dir ${PROJECT_SOURCE_DIR}/debuggers)
+install(FILES ${kv_debuggers_dir}/kv_Engine_r-gdb.py
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/kv_Engine_r COMPONENT development)
+if(WIN32)
+  install(FILES ${kv_debuggers_dir}/kv_Engine_r.natvis
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/kv_Engine_r COMPONENT development)
+elseif(CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+  install(FILES ${kv_debuggers_dir}/kv_Engine_r-gdb.py
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/gdb/auto-load${CMAKE_INSTALL_FULL_LIBDIR}
+    RENAME $<TARGET_FILE_NAME:kv_Engine_r>-gdb.py COMPONENT development)
+endif()

@@ -66,7 +66,8 @@ Timecodes (SMPTE ST 12-1), track descriptors, video formats and raw layouts,
 frames and samples in shared handles, statistics of streams, identifiers of
 material (SMPTE ST 330), and settings of devices and services.
 .
-This package has the headers, the CMake package and the pkg-config file.")
+This package has the headers, the CMake package, the pkg-config file, and what
+GDB needs to show the objects by their values.")
 
 set(CPACK_DEBIAN_TOOLS_PACKAGE_NAME kvtool)
 set(CPACK_DEBIAN_TOOLS_PACKAGE_SECTION video)
