@@ -7,8 +7,8 @@
 namespace Korvane {
 
 struct Rational32 {
-  int numerator;
-  int denominator;
+  int numerator;    // frames or samples, or the width of a picture
+  int denominator;  // seconds, or its height; 0 is kept, too
 };
 
 }  // namespace Korvane

@@ -5,6 +5,7 @@
 
 namespace Korvane {
 
+// That of <cstddef>.
 using size_t = decltype(sizeof(0));
 
 }  // namespace Korvane

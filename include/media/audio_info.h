@@ -11,6 +11,7 @@ class SoundTrackDescriptor;
 }
 
 struct KV_ENGINE_API AudioInfo {
+  // Any values are kept.
   AudioInfo(unsigned int sampling_bits, unsigned int channel_count, unsigned int sampling_rate);
 
   // What the descriptor does not define is 0.
@@ -24,11 +25,12 @@ struct KV_ENGINE_API AudioInfo {
   // 32 bits.
   unsigned int block_align() const;
 
+  // Whether all three fields are equal.
   bool operator==(const AudioInfo& other) const;
   bool operator!=(const AudioInfo& other) const;
 
   unsigned int sampling_bits;  // of one sample of one channel
-  unsigned int channel_count;
+  unsigned int channel_count;  // of one track; 2 for a stereo pair
   unsigned int sampling_rate;  // samples per second and channel
 };
 

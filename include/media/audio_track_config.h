@@ -24,6 +24,7 @@ class KV_ENGINE_API AudioTrackConfig {
   // Appends; any number is kept. Without memory for it the track stays as it was.
   void add_source_channel(unsigned int channel);
 
+  // The number of channels that were added, repeated ones included.
   unsigned int source_channel_count() const;
 
   // The channel at `index`, counted from 0 within the track. Raises InvalidArgument "Request for

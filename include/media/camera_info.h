@@ -34,6 +34,7 @@ class KV_ENGINE_API CameraInfo {
   CameraState state();
   void state(CameraState value);
 
+  // Whether the camera records now.
   bool recording() const;
   void recording(bool value);
 

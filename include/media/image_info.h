@@ -17,6 +17,7 @@ struct KV_ENGINE_API ImageInfo {
   // All zero: progressive, ColorspaceUndefined, ColorimetryUnspecified.
   ImageInfo();
 
+  // Any values are kept.
   ImageInfo(unsigned int width, unsigned int height, bool interlaced, Colorspaces colorspace,
             Colorimetry colorimetry);
 
@@ -31,6 +32,7 @@ struct KV_ENGINE_API ImageInfo {
   ImageInfo& operator=(const ImageInfo& other);
   ImageInfo& operator=(ImageInfo&& other) noexcept;  // copies
 
+  // Replaces all five fields.
   void update_info(const ImageInfo& other);
   void update_info(unsigned int width, unsigned int height, bool interlaced, Colorspaces colorspace,
                    Colorimetry colorimetry);
@@ -39,11 +41,11 @@ struct KV_ENGINE_API ImageInfo {
   bool operator==(const ImageInfo& other) const;
   bool operator!=(const ImageInfo& other) const;
 
-  unsigned int width;   // pixels
-  unsigned int height;  // lines of the frame
-  bool interlaced;
-  Colorspaces colorspace;
-  Colorimetry colorimetry;
+  unsigned int width;       // pixels
+  unsigned int height;      // lines of the frame
+  bool interlaced;          // whether the frame is made of two fields
+  Colorspaces colorspace;   // how the pixels lie in memory
+  Colorimetry colorimetry;  // how their colours are meant
 };
 
 }  // namespace Korvane

@@ -36,7 +36,10 @@ class KV_ENGINE_API InterplayWebService {
   // In plain text, as given. Nothing in this library prints it or puts it into another text.
   const char* password() const;
 
+  // Whether base_url() begins with "https://".
   bool use_https() const;
+
+  // How long a request may take, in the unit of the code that makes it.
   int timeout() const;
 
   // Scheme and authority of a URL (RFC 3986): "http://" or "https://", the server as given, a colon

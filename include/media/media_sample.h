@@ -28,6 +28,7 @@ class KV_ENGINE_API MediaSample : public Memory::Sample {
   // The track that it belongs to: TrackDescriptor::track_id() of its descriptor.
   virtual unsigned int track_id() const = 0;
 
+  // What the bytes hold: TrackDescriptor::essence_kind() of its descriptor.
   virtual TrackDescriptorEssenceKind essence_kind() const = 0;
 
   // The units per second in which the following three count: 25/1, 90000/1, 48000/1 ... The same

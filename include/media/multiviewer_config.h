@@ -30,6 +30,7 @@ class KV_ENGINE_API MultiviewerConfig {
   // Of the endpoint that receives the picture. Valid until the object is assigned to or ends.
   const wchar_t* server_address() const;
 
+  // Of the same endpoint; any number is kept.
   int port() const;
 
   // Of the composed picture, in pixels.

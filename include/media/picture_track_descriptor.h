@@ -39,6 +39,7 @@ class KV_ENGINE_API PictureTrackDescriptor : public TrackDescriptor {
   // anew, in a new place.
   virtual unsigned int* field_height() const;
 
+  // Whether a frame is made of two fields.
   KV_ENGINE_SLOTS(virtual void interlaced(bool value), virtual bool* interlaced() const);
 
   // Of the picture as displayed, not of a pixel: 16/9.
@@ -54,9 +55,11 @@ class KV_ENGINE_API PictureTrackDescriptor : public TrackDescriptor {
   KV_ENGINE_SLOTS(virtual void component_depth(unsigned int value) const,
                   virtual unsigned int* component_depth() const);
 
+  // How raw pixels lie in memory; never absent.
   KV_ENGINE_SLOTS(virtual void colorspace(Colorspaces value) const,
                   virtual Colorspaces colorspace() const);
 
+  // How colours are meant; never absent.
   KV_ENGINE_SLOTS(virtual void colorimetry(Colorimetry value) const,
                   virtual Colorimetry colorimetry() const);
 

@@ -32,6 +32,7 @@ class KV_ENGINE_API SoundTrackDescriptor : public TrackDescriptor {
   KV_ENGINE_SLOTS(virtual void sampling_bits(unsigned int value),
                   virtual unsigned int* sampling_bits() const);
 
+  // Channels that lie side by side in the samples: 2 for a stereo pair.
   KV_ENGINE_SLOTS(virtual void channel_count(unsigned int value),
                   virtual unsigned int* channel_count() const);
 

@@ -35,6 +35,7 @@ class KV_ENGINE_API SourceInfo : public IUmidInfo {
   KV_ENGINE_SLOTS(const Umid* source_mob_id() const override,
                   void source_mob_id(const Umid& id) override);
 
+  // Whether that identifier was set.
   bool has_tape_mob_id() const;
   bool has_master_mob_id() const;
   bool has_source_mob_id() const;

@@ -18,6 +18,7 @@ class KV_ENGINE_API SrtSettings {
   // Kept for 2 days, polling period 5.
   SrtSettings();
 
+  // Any values are kept.
   SrtSettings(unsigned short days_to_preserve_stats, unsigned int polling_period);
 
   SrtSettings(const SrtSettings& other);

@@ -36,6 +36,7 @@ class KV_ENGINE_API TrackDescriptor {
   KV_ENGINE_SLOTS(virtual void essence_kind(TrackDescriptorEssenceKind value),
                   virtual TrackDescriptorEssenceKind essence_kind() const);
 
+  // The number that tells the tracks of one source apart; samples name their track by it.
   KV_ENGINE_SLOTS(virtual void track_id(unsigned int value),
                   virtual unsigned int* track_id() const);
 

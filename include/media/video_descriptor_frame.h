@@ -12,6 +12,7 @@ namespace Media {
 class TrackDescriptor;
 
 struct KV_ENGINE_API VideoDescriptorFrame {
+  // Keeps the pointer, not the descriptor.
   VideoDescriptorFrame(unsigned int number, const TrackDescriptor* descriptor);
 
   VideoDescriptorFrame(const VideoDescriptorFrame& other);

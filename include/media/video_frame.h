@@ -17,6 +17,7 @@ struct KV_ENGINE_API VideoFrame {
   // Number 0, ImageInfo(), no sample.
   VideoFrame();
 
+  // Shares `sample`, which may hold nothing.
   VideoFrame(MediaSampleSharedPtr sample, const ImageInfo& image, unsigned int number);
 
   VideoFrame(const VideoFrame& other);
@@ -28,8 +29,8 @@ struct KV_ENGINE_API VideoFrame {
 
   ~VideoFrame();
 
-  unsigned int number;  // given by the engine, which gives it its meaning
-  ImageInfo image;
+  unsigned int number;          // given by the engine, which gives it its meaning
+  ImageInfo image;              // how to read the pixels
   MediaSampleSharedPtr sample;  // the pixels; may hold nothing
 };
 

@@ -6,13 +6,13 @@
 namespace Korvane {
 
 struct TimeData {
-  unsigned short year;
-  unsigned short month;
-  unsigned short day;
-  unsigned short hour;
-  unsigned short minute;
-  unsigned short second;
-  unsigned short millisecond;
+  unsigned short year;         // Gregorian, four digits
+  unsigned short month;        // 1 to 12
+  unsigned short day;          // 1 to 31
+  unsigned short hour;         // 0 to 23
+  unsigned short minute;       // 0 to 59
+  unsigned short second;       // 0 to 59
+  unsigned short millisecond;  // 0 to 999
 };
 
 }  // namespace Korvane

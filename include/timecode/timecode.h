@@ -87,15 +87,28 @@ class KV_ENGINE_API Timecode {
   Timecode& operator=(const Timecode& other);
   virtual ~Timecode();
 
+  // The nominal rate: 30 stands for 29.97, too.
   unsigned short frame_rate() const;
+
+  // Frames since 00:00:00:00 at full rate; negative before it, past a day after 24 hours.
   long long frame_count() const;
+
+  // The same within one day: 0 to the frames of a day less one.
   long long absolute_frame_count() const;
 
   // Whole days in the frame count, negative below zero; the count of days is kept in 16 bits.
   short days() const;
+
+  // Whether labels are left out to keep up with the clock: at 30 and 60 only.
   bool drop_frame() const;
+
+  // Whether this is the second frame of a pair; false at 24, 25 and 30.
   bool field_mark() const;
+
+  // Of the label: 0 to 23; 24 where a word of to_12m said so.
   unsigned char hours() const;
+
+  // Of the label: 0 to 59.
   unsigned char minutes() const;
   unsigned char seconds() const;
 

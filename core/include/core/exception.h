@@ -26,9 +26,10 @@ class KV_CORE_API Exception {
   Exception& operator=(Exception&& other) noexcept;
   virtual ~Exception();
 
+  // The kind of failure, by which a program tells failures apart.
   ExceptionCode code() const;
 
-  // Never null. Valid as long as any copy of this exception lives.
+  // The text of the failure (UTF-8), never null. Valid as long as any copy of this exception lives.
   const char* message() const;
 
  private:
