@@ -105,21 +105,21 @@ TEST(ExtChrono, StartsAndFramesAreEachOthersInverse) {
 }
 
 TEST(ExtChrono, RefusesWhat64BitsDoNotHold) {
-  const char* const kOutOfRange = "Time out of range";
+  const char* const out_of_range = "Time out of range";
   // 2^63 nanoseconds are 9223372036.854775807 seconds, or 230584300921 frames and a bit.
   EXPECT_EQ(9223372036840000000,
             Ext::start_time(Timecode(25, 230584300921LL, false), kPal).count());
-  EXPECT_TRUE(raises(InvalidArgument, kOutOfRange,
+  EXPECT_TRUE(raises(InvalidArgument, out_of_range,
                      [] { Ext::start_time(Timecode(25, 230584300922LL, false), kPal); }));
-  EXPECT_TRUE(raises(InvalidArgument, kOutOfRange,
+  EXPECT_TRUE(raises(InvalidArgument, out_of_range,
                      [] { Ext::start_time(Timecode(25, kMost, false), kPal); }));
-  EXPECT_TRUE(raises(InvalidArgument, kOutOfRange, [] {
+  EXPECT_TRUE(raises(InvalidArgument, out_of_range, [] {
     Ext::start_time(Timecode(25, -kMost, false), {1, 2147483647});
   }));
-  EXPECT_TRUE(raises(InvalidArgument, kOutOfRange, [] {
+  EXPECT_TRUE(raises(InvalidArgument, out_of_range, [] {
     Ext::timecode_at(25, std::chrono::nanoseconds::max(), false, {2147483647, 1});
   }));
-  EXPECT_TRUE(raises(InvalidArgument, kOutOfRange, [] {
+  EXPECT_TRUE(raises(InvalidArgument, out_of_range, [] {
     Ext::timecode_at(25, std::chrono::nanoseconds::min(), false, {2147483647, 1});
   }));
 }

@@ -1,6 +1,6 @@
 # cmake -D COMPILER= -D STANDARD= -D FLAGS= -D SOURCE_DIR= [-D COMPANIONS=ON] -P headers_test.cmake: each
-# exported header compiles alone without a warning and includes nothing but our own headers. Or each
-# header of include/ext, which may include others, with all warnings that we know.
+# exported header compiles alone without a warning, includes nothing but our own headers, and is included by
+# the umbrella header. Or each header of include/ext, which may include others, with all our warnings.
 cmake_minimum_required(VERSION 3.25)
 
 set(companions "^${SOURCE_DIR}/include/ext/")
@@ -31,4 +31,23 @@ foreach(header ${headers})
     message(SEND_ERROR "${header}:\n${errors}")
   endif()
 endforeach()
+
+# The umbrella header includes what a client names, and nothing of include/ext.
+if(NOT COMPANIONS)
+  file(READ ${SOURCE_DIR}/include/kv_engine.h umbrella)
+  foreach(header ${headers})
+    string(REGEX REPLACE "^.*/include/" "" name ${header})
+    string(FIND "${umbrella}" "#include \"${name}\"" position)
+    if(name MATCHES "^kv_engine.h$|/export.h$|/(comparison|record_ptr|types|virtual_slots).h$")
+      if(NOT position EQUAL -1)
+        message(SEND_ERROR "kv_engine.h includes ${name}, which others include")
+      endif()
+    elseif(position EQUAL -1)
+      message(SEND_ERROR "kv_engine.h does not include ${name}")
+    endif()
+  endforeach()
+  if(umbrella MATCHES "\"ext/")
+    message(SEND_ERROR "kv_engine.h includes a header of include/ext")
+  endif()
+endif()
 message(STATUS "${count} headers")
