@@ -2,7 +2,7 @@
 # alone. The whole of /usr/include must not be on a cross compiler's path.
 function(kv_header_only target folder)
   find_path(${target}_ROOT ${folder} PATHS /usr/include /usr/local/include
-    NO_CMAKE_FIND_ROOT_PATH)
+    NO_CMAKE_FIND_ROOT_PATH NO_SYSTEM_ENVIRONMENT_PATH)  # a program may have its name
   if(NOT ${target}_ROOT)
     message(FATAL_ERROR "The ${folder} headers were not found; set ${target}_ROOT to their folder.")
   endif()

@@ -16,7 +16,8 @@ function(kv_install_library target component)
       NAMELINK_COMPONENT development
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development
     INCLUDES DESTINATION ${kv_include_dir}
-    FILE_SET HEADERS DESTINATION ${kv_include_dir} COMPONENT development)
+    FILE_SET HEADERS DESTINATION ${kv_include_dir} COMPONENT development
+    FILE_SET companions DESTINATION ${kv_include_dir} COMPONENT development)
 endfunction()
 
 kv_install_library(kv_Engine_r runtime)

@@ -1,5 +1,5 @@
 # cmake -D VERSION= -D SOURCE_DIR= -P kept_headers_test.cmake: the headers kept in tests/abi/VERSION are those
-# of the tag vVERSION. Says "no tag" where there is none yet.
+# of the tag vVERSION, but for include/ext. Says "no tag" where there is none yet.
 cmake_minimum_required(VERSION 3.25)
 
 execute_process(COMMAND git -C ${SOURCE_DIR} rev-parse -q --verify refs/tags/v${VERSION}
@@ -14,6 +14,7 @@ execute_process(COMMAND git -C ${SOURCE_DIR} ls-tree -r v${VERSION} include core
   OUTPUT_VARIABLE tree COMMAND_ERROR_IS_FATAL ANY)
 string(REGEX MATCHALL "[0-9a-f]+\t[^\n]+" tagged "${tree}")
 list(TRANSFORM tagged REPLACE "\t(core/)?include/" " ")
+list(FILTER tagged EXCLUDE REGEX " ext/")
 
 set(folder ${SOURCE_DIR}/tests/abi/${VERSION}/include)
 file(GLOB_RECURSE headers RELATIVE ${folder} ${folder}/*)

@@ -6,6 +6,7 @@ cmake_minimum_required(VERSION 3.25)
 # The classes that the headers define, and a class derived from each that is polymorphic: its table
 # begins with the slots of its base.
 file(GLOB_RECURSE headers ${SOURCE_DIR}/include/*.h ${SOURCE_DIR}/core/include/*.h)
+list(FILTER headers EXCLUDE REGEX "^${SOURCE_DIR}/include/ext/")
 set(probes "#include \"kv_engine.h\"
 template <typename Base, bool kPolymorphic> struct Probe { };
 template <typename Base> struct Probe<Base, true> : Base { ~Probe() override; };

@@ -18,7 +18,11 @@ foreach(text IN LISTS texts)
 endforeach()
 
 include(${CMAKE_CURRENT_LIST_DIR}/consumer_project.cmake)
-kv_build_and_run(find_package -D "CMAKE_PREFIX_PATH=${moved}")
+kv_build_and_run(../../examples/consumer -D "CMAKE_PREFIX_PATH=${moved}")
+execute_process(COMMAND ${WORK_DIR}/consumer OUTPUT_VARIABLE printed COMMAND_ERROR_IS_FATAL ANY)
+if(NOT printed STREQUAL "01:00:00;00\n")
+  message(SEND_ERROR "the example of a consumer prints ${printed}")
+endif()
 
 # By pkg-config its flags are words of a shell. Escaped letters outside ASCII are for the shell too.
 set(ENV{PKG_CONFIG_PATH} "${moved}/${LIBDIR}/pkgconfig")
