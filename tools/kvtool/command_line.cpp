@@ -102,7 +102,7 @@ void CommandLine::add_color(CLI::App& command) {
           [this](const std::string& when) {
             if (when != "auto") streams_.out_ink = streams_.err_ink = Ink(when == "always");
           },
-          "Colours on a terminal alone (auto, the default), always or never")
+          "When to use colours: on a terminal by default (auto)")
       ->type_name("WHEN")
       ->check(one_of_these({"auto", "always", "never"}))
       ->trigger_on_parse();

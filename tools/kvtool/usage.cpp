@@ -48,7 +48,7 @@ std::string describe_missing_value(const std::string& what, const std::string& s
 }
 
 bool is_heading(const std::string& line) {
-  return line.size() > 1 && line.ends_with(':') && line[0] >= 'A' && line[0] <= 'Z';
+  return line.size() < 22 && line.ends_with(':') && line[0] >= 'A' && line[0] <= 'Z';
 }
 
 }  // namespace
