@@ -69,7 +69,7 @@ unpack() {
 packages_build=(g++ cmake ninja-build pkg-config libboost-dev)
 packages_tools=(libavformat-dev libavcodec-dev libavutil-dev libltc-dev
   libgstreamer-plugins-base1.0-dev libsrt-gnutls-dev libcli11-dev nlohmann-json3-dev ffmpeg)
-packages_tests=(libgtest-dev libfmt-dev librapidcheck-dev clang python3-jsonschema)
+packages_tests=(libgtest-dev libfmt-dev librapidcheck-dev clang python3-jsonschema fish mandoc zsh)
 packages_checks=(git clang-format clang-tidy googletest g++-mingw-w64-x86-64-posix wine64)
 packages_docs=(doxygen python3 python3-websocket chromium fonts-dejavu-core)
 packages_packing=(dpkg-dev fakeroot file gdb lintian unzip g++-mingw-w64-x86-64-posix wine64)

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <nlohmann/json.hpp>
+
 #include "kvtool/tool_run.h"
 
 namespace Korvane::Tool {
@@ -137,6 +139,20 @@ TEST(MultiviewerCommand, WarnsOfWhatTheLibraryTakes) {
                 "tile 4 (id 3) is 0x-5 and shows nothing",
                 "tile 5 (id 4) lies outside the raster of 1000x500: 2147483647x1 at 2147483647,9"}),
             warnings_in(result));
+}
+
+TEST(MultiviewerCommand, JsonIsTheLayoutWithItsDefaultsAndWarnings) {
+  const ToolResult result = run_tool({"multiviewer", "-", "--json"}, R"({"width": 100, "sources": [
+    {"id": 1, "channel_id": "B\u00fchne", "width": 8, "height": 9, "x_offset": -4, "y_offset": 0}]})");
+  EXPECT_EQ(0, result.code);
+  EXPECT_EQ(nlohmann::json::parse(R"({"server_address": "", "port": 0, "width": 100, "height": 1080,
+      "edit_rate": null, "keep_aspect_ratio": false,
+      "sources": [{"id": 1, "channel_id": "B\u00fchne", "width": 8, "height": 9, "x_offset": -4,
+                   "y_offset": 0, "use_audio": false}],
+      "warnings": ["tile 1 (id 1) reaches beyond the raster of 100x1080: 8x9 at -4,0"]})"),
+            nlohmann::json::parse(result.out));
+  const ToolResult wall = run_tool({"multiviewer", "-", "--json"}, kWall);
+  EXPECT_EQ("30000/1001", nlohmann::json::parse(wall.out)["edit_rate"]);
 }
 
 TEST(MultiviewerCommand, TilesThatOnlyTouchAreFine) {

@@ -27,8 +27,13 @@ Examples:
   kvtool colorspaces --name V210 --width 1280 --height 720
   kvtool colorspaces --planes 3 --depth 10 --json
 
-JSON and CSV columns: value, name, planes, depth, stride_0 to stride_2, lines_0 to
-lines_2, frame_bytes; no value is null, or an empty field.)";
+JSON and CSV:
+  The columns are value, name, planes, depth, stride_0 to stride_2, lines_0 to lines_2,
+  frame_bytes; no value is null, or an empty field.
+
+Exit codes:
+  0  done
+  2  wrong usage)";
 
 unsigned int raster_option(const TableRequest& request, const char* option, unsigned int usual) {
   const auto given = request.given.find(option);

@@ -11,9 +11,10 @@ namespace Families = Media::TrackDescriptorUtils;
 constexpr TableOption kEssenceOptions[] = {
     {"--value", "value", TableValue::Number, "N", "The kind of this number"},
     {"--name", "name", TableValue::Listed, "NAME", "The kind of this name"},
-    {"--family", "family", TableValue::Listed, "FAMILY", "audio, video, data or none"},
-    {"--dnx", "dnx", TableValue::YesNo, "yes|no", "Whether it is a DNx kind"},
-    {"--prores", "prores", TableValue::YesNo, "yes|no", "Whether it is a ProRes kind"},
+    {"--family", "family", TableValue::Listed, "FAMILY:{audio,video,data,none}",
+     "Kinds of this family"},
+    {"--dnx", "dnx", TableValue::YesNo, "WHETHER:{yes,no}", "Whether it is a DNx kind"},
+    {"--prores", "prores", TableValue::YesNo, "WHETHER:{yes,no}", "Whether it is a ProRes kind"},
 };
 
 constexpr const char* kEssenceFooter =
@@ -24,7 +25,12 @@ Examples:
   kvtool essence --family audio
   kvtool essence --prores yes --json
 
-JSON and CSV columns: value, name, family, dnx, prores.)";
+JSON and CSV:
+  The columns are value, name, family, dnx, prores.
+
+Exit codes:
+  0  done
+  2  wrong usage)";
 
 std::string family_of(Kind kind) {
   if (Families::is_audio_track(kind)) return "audio";

@@ -16,11 +16,11 @@ constexpr TableOption kFormatOptions[] = {
     {"--name", "name", TableValue::Listed, "NAME", "The format of this name"},
     {"--width", "width", TableValue::Number, "PIXELS", "Formats of this width"},
     {"--height", "height", TableValue::Number, "LINES", "Formats of this height"},
-    {"--scanning", "scanning", TableValue::Listed, "SCANNING", "interlaced or progressive"},
-    {"--rate", "edit_rate", TableValue::Rate, "RATE",
-     "Frames per second: 25, 29.97, 30000/1001, ..."},
-    {"--aspect", "aspect_ratio", TableValue::Listed, "RATIO", "4/3 or 16/9"},
-    {"--uhd", "uhd", TableValue::YesNo, "yes|no", "Whether the library counts it as UHD"},
+    {"--scanning", "scanning", TableValue::Listed, "SCANNING:{interlaced,progressive}",
+     "Formats of this scanning"},
+    {"--rate", "edit_rate", TableValue::Rate, "RATE", "Formats of so many frames per second"},
+    {"--aspect", "aspect_ratio", TableValue::Listed, "RATIO:{4/3,16/9}", "Formats of this picture"},
+    {"--uhd", "uhd", TableValue::YesNo, "WHETHER:{yes,no}", "Whether the library counts it as UHD"},
 };
 
 constexpr const char* kFormatFooter =
@@ -33,8 +33,13 @@ Examples:
   kvtool formats --width 3840 --rate 60000/1001
   kvtool formats --scanning interlaced --csv
 
-JSON and CSV columns: value, name, width, height, scanning, edit_rate, aspect_ratio,
-rounded_rate, uhd, found_as; no value (of UnknownFormat) is null, or an empty field.)";
+JSON and CSV:
+  The columns are value, name, width, height, scanning, edit_rate, aspect_ratio,
+  rounded_rate, uhd, found_as; no value (of UnknownFormat) is null, or an empty field.
+
+Exit codes:
+  0  done
+  2  wrong usage)";
 
 VideoFormats found_as(VideoFormats format) {
   Media::PictureTrackDescriptor descriptor;

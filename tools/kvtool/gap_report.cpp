@@ -28,13 +28,14 @@ std::string indented(std::string text) {
 GapReport::~GapReport() = default;
 
 void GapText::gap(const std::string&, unsigned long long, const Difference& gap) {
-  out_ << gap.line << describe_jump(gap.frames) << '\n';
+  out_ << gap.line << ink_.alarm(describe_jump(gap.frames)) << '\n';
 }
 
 void GapText::finish(const GapTotals& totals) {
+  const std::string gaps = counted(totals.gaps, "gap");
   out_ << printable_name(totals.name) << ": " << counted(totals.count, "timecode") << ", "
-       << counted(totals.gaps, "gap") << ", first " << totals.first << ", last " << totals.last
-       << '\n';
+       << (totals.gaps == 0 ? gaps : ink_.alarm(gaps)) << ", first " << totals.first << ", last "
+       << totals.last << '\n';
 }
 
 void GapJson::gap(const std::string& unit, unsigned long long position, const Difference& gap) {

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "difference_log.h"
+#include "ink.h"
 #include "temporary_file.h"
 
 namespace Korvane::Tool {
@@ -32,12 +33,13 @@ class GapReport {
 // A line a gap, at once.
 class GapText : public GapReport {
  public:
-  explicit GapText(std::ostream& out) : out_(out) {}
+  GapText(std::ostream& out, Ink ink) : out_(out), ink_(ink) {}
   void gap(const std::string& unit, unsigned long long position, const Difference& gap) override;
   void finish(const GapTotals& totals) override;
 
  private:
   std::ostream& out_;
+  Ink ink_;
 };
 
 // One JSON document, printed at the end; until then the gaps wait in a temporary file.

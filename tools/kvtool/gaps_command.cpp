@@ -19,7 +19,8 @@ namespace {
 std::optional<Rate> rate_of(const GapsOptions& options) {
   if (!options.rate.empty()) return parse_rate(options.rate, options.drop_frame);
   if (options.input == "media") return std::nullopt;
-  throw UsageError("gaps --input " + options.input + " needs --rate (such as --rate 25)");
+  throw UsageError("gaps --input " + options.input + " needs --rate (such as --rate 25" +
+                   (options.input == "text" ? "; for a media file --input media)" : ")"));
 }
 
 std::unique_ptr<TimecodeSource> open_source(const GapsOptions& options, Input& input,
@@ -84,7 +85,7 @@ int run_gaps(const GapsOptions& options, Streams& streams) {
   if (options.json)
     report = std::make_unique<GapJson>(streams.out);
   else
-    report = std::make_unique<GapText>(streams.out);
+    report = std::make_unique<GapText>(streams.out, streams.out_ink);
 
   GapTotals totals{input.name(), options.input, source->frame_rate()};
   Progress progress(streams, input.name(), input.size());

@@ -1,5 +1,7 @@
 #include "multiviewer_command.h"
 
+#include <nlohmann/json.hpp>
+
 #include "failure.h"
 #include "input.h"
 #include "multiviewer_layout.h"
@@ -37,10 +39,48 @@ void write_config(std::ostream& out, Media::MultiviewerConfig config) {
       << (address.empty() ? "no address" : address) << ", port " << config.port() << '\n';
 }
 
+using LayoutJson = nlohmann::ordered_json;
+
+LayoutJson tile_json(const Media::MultiviewerSource& tile) {
+  return {{"id", tile.id()},
+          {"channel_id", utf8_of(tile.channel_id())},
+          {"width", tile.width()},
+          {"height", tile.height()},
+          {"x_offset", tile.x_offset()},
+          {"y_offset", tile.y_offset()},
+          {"use_audio", tile.use_audio()}};
+}
+
+void write_layout_json(std::ostream& out, MultiviewerLayout layout) {
+  Media::MultiviewerConfig& config = layout.config;
+  LayoutJson tiles = LayoutJson::array();
+  for (std::size_t i = 0; i < layout.sources.size(); ++i)
+    tiles.push_back(tile_json(layout.sources.source_at(i)));
+  const Rational32 rate = config.edit_rate();
+  const LayoutJson json = {
+      {"server_address", utf8_of(config.server_address())},
+      {"port", config.port()},
+      {"width", config.width()},
+      {"height", config.height()},
+      {"edit_rate", rate.numerator == 0 ? LayoutJson() : LayoutJson(describe(rate))},
+      {"keep_aspect_ratio", config.keep_aspect_ratio()},
+      {"sources", tiles},
+      {"warnings", warnings_of(layout)}};
+  out << json.dump(2) << '\n';
+}
+
+void write_layout_text(Streams& streams, const MultiviewerLayout& layout) {
+  write_config(streams.out, layout.config);
+  draw_on_terminal(streams.out, layout);
+  write_text(streams.out, tiles_of(layout), "", streams.out_ink);
+  for (const std::string& warning : warnings_of(layout))
+    streams.out << streams.out_ink.alarm("warning:") << ' ' << warning << '\n';
+}
+
 }  // namespace
 
 const char* multiviewer_footer() {
-  return R"(LAYOUT.json is an object with these keys; what is left out has the value shown:
+  return R"(LAYOUT is a JSON object with these keys; what is left out has the value shown:
   "server_address": "", "port": 0, "width": 1920, "height": 1080, "edit_rate": 0,
   "keep_aspect_ratio": false, and "sources", the list of tiles.
 An edit rate is written as 25 or "30000/1001". Of a tile all but "use_audio" is needed:
@@ -53,7 +93,16 @@ library takes them, so the exit code is 0. Later tiles are drawn over former one
 Examples:
   kvtool multiviewer wall.json
   kvtool multiviewer wall.json --svg wall.svg
-  kvtool multiviewer - < wall.json)";
+  kvtool multiviewer - --json < wall.json
+
+JSON:
+  The keys of LAYOUT, with nothing left out (edit_rate a text, or null without one), and
+  warnings, a list of texts.
+
+Exit codes:
+  0  done, even with warnings
+  1  the layout is bad, or the drawing cannot be written
+  2  wrong usage)";
 }
 
 int run_multiviewer(const MultiviewerOptions& options, Streams& streams) {
@@ -66,11 +115,10 @@ int run_multiviewer(const MultiviewerOptions& options, Streams& streams) {
                      " sources (expected at most " + std::to_string(kMostTiles) + ')');
   if (options.svg) write_whole_file(*options.svg, svg_of(layout));
 
-  write_config(streams.out, layout.config);
-  draw_on_terminal(streams.out, layout);
-  write_text(streams.out, tiles_of(layout));
-  for (const std::string& warning : warnings_of(layout))
-    streams.out << "warning: " << warning << '\n';
+  if (options.json)
+    write_layout_json(streams.out, layout);
+  else
+    write_layout_text(streams, layout);
   return Done;
 }
 

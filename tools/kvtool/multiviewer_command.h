@@ -13,6 +13,7 @@ namespace Korvane::Tool {
 struct MultiviewerOptions {
   std::string file;
   std::optional<std::string> svg;  // the file to write
+  bool json = false;
 };
 
 const char* multiviewer_footer();

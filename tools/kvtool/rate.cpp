@@ -1,9 +1,12 @@
 #include "rate.h"
 
+#include <charconv>
 #include <cmath>
+#include <optional>
 
 #include "failure.h"
 #include "printable.h"
+#include "suggestion.h"
 
 namespace Korvane::Tool {
 namespace {
@@ -28,20 +31,48 @@ constexpr NamedRate kRates[] = {
     {"60000/1001", 60, {60000, 1001}},
 };
 
-std::string known_rates() {
-  std::string names;
-  for (const NamedRate& rate : kRates) {
-    if (!names.empty()) names += &rate == std::end(kRates) - 1 ? " or " : ", ";
-    names += rate.name;
-  }
-  return names;
-}
-
 double per_second(const Rational32& rate) {
   return static_cast<double>(rate.numerator) / rate.denominator;
 }
 
+// Containers and people round rates: 0.03 percent is a third of what parts 30 from 30000/1001.
+bool is_near(double frames_per_second, const Rational32& rate) {
+  return std::abs(frames_per_second / per_second(rate) - 1) < 0.0003;
+}
+
+std::optional<double> take_decimal(std::string_view& text) {
+  double value = 0;
+  const auto [stop, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc()) return std::nullopt;
+  text.remove_prefix(static_cast<std::size_t>(stop - text.data()));
+  return value;
+}
+
+// The name of the rate that is written otherwise: "23.98", "29,97", "25p", "60000/1000".
+std::string same_rate(std::string text) {
+  const std::size_t comma = text.find(',');
+  if (comma != std::string::npos) text[comma] = '.';
+  std::string_view rest = text;
+  std::optional<double> frames_per_second = take_decimal(rest);
+  if (frames_per_second && rest.starts_with('/')) {
+    rest.remove_prefix(1);
+    const std::optional<double> seconds = take_decimal(rest);
+    if (!seconds) return {};
+    *frames_per_second /= *seconds;
+  }
+  if (!frames_per_second || (!rest.empty() && rest != "p" && rest != "fps")) return {};
+  for (const NamedRate& known : kRates)
+    if (is_near(*frames_per_second, known.edit)) return known.name;
+  return {};
+}
+
 }  // namespace
+
+std::vector<std::string> rate_names() {
+  std::vector<std::string> names;
+  for (const NamedRate& rate : kRates) names.emplace_back(rate.name);
+  return names;
+}
 
 Rate parse_rate(const std::string& text, bool drop_frame) {
   for (const NamedRate& known : kRates) {
@@ -50,8 +81,8 @@ Rate parse_rate(const std::string& text, bool drop_frame) {
       throw UsageError("--drop does not go with --rate " + text + " (expected 30 or 60)");
     return counting({known.nominal, known.edit, false}, drop_frame);
   }
-  throw UsageError("--rate " + in_quotes(text) + " is not supported (expected " + known_rates() +
-                   ")");
+  throw UsageError("--rate " + in_quotes(text) + " is not supported (expected " +
+                   one_of(rate_names()) + did_you_mean(same_rate(text)) + ")");
 }
 
 Rate counting(const Rate& rate, bool drop_frame) {
@@ -76,8 +107,7 @@ std::string describe_ratio(const Rational32& ratio) {
 unsigned short nominal_rate(const Rational32& frame_rate) {
   if (frame_rate.numerator <= 0 || frame_rate.denominator <= 0) return 0;
   for (const NamedRate& known : kRates)
-    if (std::abs(per_second(frame_rate) / per_second(known.edit) - 1) < 0.0003)
-      return known.nominal;
+    if (is_near(per_second(frame_rate), known.edit)) return known.nominal;
   return 0;
 }
 

@@ -4,6 +4,7 @@
 #define KV_TOOLS_KVTOOL_RATE_H
 
 #include <string>
+#include <vector>
 
 #include "foundation/rational32.h"
 
@@ -14,6 +15,9 @@ struct Rate {
   Rational32 edit;  // frames per second
   bool drop_frame;
 };
+
+// What parse_rate takes.
+std::vector<std::string> rate_names();
 
 // `drop_frame` also sets the edit rate, as counting does. Raises UsageError.
 Rate parse_rate(const std::string& text, bool drop_frame);
@@ -31,8 +35,8 @@ std::string describe(const Rational32& edit_rate);
 // "16/9", "25/1".
 std::string describe_ratio(const Rational32& ratio);
 
-// The nominal rate of a measured frame rate, or 0 when no timecode counts at it. Containers round
-// frame rates, hence a tolerance of 0.03 percent, a third of what parts 30 from 30000/1001.
+// The nominal rate of a measured frame rate, or 0 when no timecode counts at it. A tolerance of
+// 0.03 percent is allowed for.
 unsigned short nominal_rate(const Rational32& frame_rate);
 
 }  // namespace Korvane::Tool

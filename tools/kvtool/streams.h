@@ -7,6 +7,9 @@
 #include <functional>
 #include <istream>
 #include <ostream>
+#include <string_view>
+
+#include "ink.h"
 
 namespace Korvane::Tool {
 
@@ -16,7 +19,14 @@ struct Streams {
   std::ostream& err;
   bool err_is_terminal = false;
   std::function<std::chrono::steady_clock::time_point()> now = std::chrono::steady_clock::now;
+  Ink out_ink = {};
+  Ink err_ink = {};
 };
+
+// Writes what has failed as a line of standard error.
+inline void complain(Streams& streams, std::string_view line) {
+  streams.err << streams.err_ink.alarm("kvtool:") << ' ' << line << '\n';
+}
 
 }  // namespace Korvane::Tool
 #endif  // KV_TOOLS_KVTOOL_STREAMS_H

@@ -31,15 +31,15 @@ ColumnLayout layout_of_column(const Table& table, std::size_t column) {
   return layout;
 }
 
-void write_row(std::ostream& out, const std::string& indent, const std::vector<std::string>& texts,
-               const std::vector<ColumnLayout>& layouts) {
-  std::string line = indent;
+std::string row_text(const std::vector<std::string>& texts,
+                     const std::vector<ColumnLayout>& layouts) {
+  std::string line;
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const std::string blanks(layouts[i].width - texts[i].size(), ' ');
     if (i != 0) line.append(kGap, ' ');
     line += layouts[i].to_the_right ? blanks + texts[i] : texts[i] + blanks;
   }
-  out << line.substr(0, line.find_last_not_of(' ') + 1) << '\n';
+  return line.substr(0, line.find_last_not_of(' ') + 1);
 }
 
 std::string csv_field(const Cell& cell) {
@@ -75,17 +75,17 @@ std::string text_of(const Cell& cell) {
   return text != nullptr ? *text : "-";
 }
 
-void write_text(std::ostream& out, const Table& table, const std::string& indent) {
+void write_text(std::ostream& out, const Table& table, const std::string& indent, Ink ink) {
   std::vector<ColumnLayout> layouts;
   std::vector<std::string> texts;
   for (std::size_t i = 0; i < table.columns.size(); ++i) {
     layouts.push_back(layout_of_column(table, i));
     texts.push_back(heading(table.columns[i]));
   }
-  write_row(out, indent, texts, layouts);
+  out << indent << ink.heading(row_text(texts, layouts)) << '\n';
   for (const std::vector<Cell>& row : table.rows) {
     std::transform(row.begin(), row.end(), texts.begin(), text_of);
-    write_row(out, indent, texts, layouts);
+    out << indent << row_text(texts, layouts) << '\n';
   }
 }
 

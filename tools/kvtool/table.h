@@ -8,6 +8,8 @@
 #include <variant>
 #include <vector>
 
+#include "ink.h"
+
 namespace Korvane::Tool {
 
 using Integer = long long;
@@ -25,7 +27,8 @@ struct Table {
 std::string text_of(const Cell& cell);
 
 // Headings, then a line a row, each begun with `indent`; numbers stand to the right.
-void write_text(std::ostream& out, const Table& table, const std::string& indent = "");
+void write_text(std::ostream& out, const Table& table, const std::string& indent = "",
+                Ink ink = {});
 
 // RFC 4180 but for the ends of lines, which are line feeds. No value is an empty field. A row alone
 // serves tables that grow while they are written.

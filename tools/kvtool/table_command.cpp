@@ -8,6 +8,7 @@
 #include "failure.h"
 #include "printable.h"
 #include "rate.h"
+#include "suggestion.h"
 
 namespace Korvane::Tool {
 namespace {
@@ -38,24 +39,21 @@ std::vector<std::string> distinct_texts(const Table& table, std::size_t column) 
 std::string describe_choice(const std::vector<std::string>& texts) {
   constexpr std::size_t kMany = 8;
   if (texts.size() > kMany) return "a name such as " + texts.front();
-  std::string choice;
-  for (const std::string& text : texts) {
-    if (!choice.empty()) choice += &text == &texts.back() ? " or " : ", ";
-    choice += text;
-  }
-  return choice;
+  return one_of(texts);
 }
 
 Cell parse_listed(const TableOption& option, const std::string& text, const Table& table,
                   std::size_t column) {
   const std::vector<std::string> texts = distinct_texts(table, column);
   if (std::find(texts.begin(), texts.end(), text) == texts.end())
-    refuse_value(option.name, text, describe_choice(texts));
+    refuse_value(option.name, text,
+                 describe_choice(texts) + did_you_mean(nearest_name(text, texts)));
   return text;
 }
 
 Cell parse_yes_no(const TableOption& option, const std::string& text) {
-  if (text != "yes" && text != "no") refuse_value(option.name, text, "yes or no");
+  if (text != "yes" && text != "no")
+    refuse_value(option.name, text, "yes or no" + did_you_mean(nearest_name(text, {"yes", "no"})));
   return text == "yes";
 }
 
@@ -117,7 +115,7 @@ int run_table(const TableSubject& subject, const TableRequest& request, Streams&
   else if (request.csv)
     write_csv(streams.out, table);
   else
-    write_text(streams.out, table);
+    write_text(streams.out, table, "", streams.out_ink);
   return Done;
 }
 

@@ -53,7 +53,7 @@ struct TrackConclusions {
 
 TrackConclusions conclusions_of(const Media::TrackDescriptor& descriptor);
 
-void write_text(std::ostream& out, const TrackReport& tracks);
+void write_text(std::ostream& out, const TrackReport& tracks, Ink ink = {});
 nlohmann::ordered_json to_json(const TrackReport& tracks);
 
 }  // namespace Korvane::Tool

@@ -45,7 +45,7 @@ std::string plane_texts(const Layout& layout, unsigned int PlaneSize::*member) {
   return texts;
 }
 
-void write_layouts(std::ostream& out, const std::vector<Layout>& layouts) {
+void write_layouts(std::ostream& out, const std::vector<Layout>& layouts, Ink ink) {
   if (layouts.empty()) return;
   Table table{{"raw_layout", "planes", "depth", "stride", "lines", "frame_bytes"}, {}};
   for (const Layout& layout : layouts)
@@ -54,15 +54,15 @@ void write_layouts(std::ostream& out, const std::vector<Layout>& layouts) {
          layout.component_depth ? Cell(static_cast<long long>(*layout.component_depth)) : Cell(),
          plane_texts(layout, &PlaneSize::stride), plane_texts(layout, &PlaneSize::lines),
          static_cast<long long>(layout.frame_bytes)});
-  write_text(out, table, kIndent);
+  write_text(out, table, kIndent, ink);
 }
 
 void write_track(std::ostream& out, const TrackSource& source,
-                 const Media::TrackDescriptor& descriptor) {
-  out << "\ntrack of stream " << source.stream << ": " << kind_of(descriptor) << ", "
-      << source.codec;
-  if (!source.profile.empty()) out << " (" << source.profile << ')';
-  out << '\n';
+                 const Media::TrackDescriptor& descriptor, Ink ink) {
+  std::string heading = "track of stream " + std::to_string(source.stream) + ": " +
+                        kind_of(descriptor) + ", " + source.codec;
+  if (!source.profile.empty()) heading += " (" + source.profile + ')';
+  out << '\n' << ink.heading(heading) << '\n';
   for (const TrackField& field : fields_of(descriptor))
     if (!std::holds_alternative<std::monostate>(field.value))
       write_line(out, readable(field.name), text_of(field.value));
@@ -73,14 +73,14 @@ void write_track(std::ostream& out, const TrackSource& source,
   if (conclusions.video_format) write_line(out, "video format", name_of(*conclusions.video_format));
   if (conclusions.image_info) write_line(out, "image", describe(*conclusions.image_info));
   if (conclusions.audio_info) write_line(out, "audio", describe(*conclusions.audio_info));
-  write_layouts(out, conclusions.layouts);
+  write_layouts(out, conclusions.layouts, ink);
 }
 
 }  // namespace
 
-void write_text(std::ostream& out, const TrackReport& tracks) {
+void write_text(std::ostream& out, const TrackReport& tracks, Ink ink) {
   for (std::size_t i = 0; i < tracks.sources.size(); ++i)
-    write_track(out, tracks.sources[i], *tracks.descriptors.track_at(i));
+    write_track(out, tracks.sources[i], *tracks.descriptors.track_at(i), ink);
 }
 
 }  // namespace Korvane::Tool

@@ -123,10 +123,16 @@ Examples:
   kvtool umid urn:smpte:umid:060a2b34.01010105.01010d13.13000000.a1b2c3d4.e5f60718.293a4b5c.6d7e8f90
   kvtool umid 0x060A2B340101010501010D1313000000A1B2C3D4E5F60718293A4B5C6D7E8F90 --json
 
-JSON: a list with the keys text, umid, bytes, kind (basic, extended), label, instance,
-material, source_pack (null in a basic one), warning (null, or what contradicts SMPTE ST
-330), misread, read_as (what the library reads; null when that is nothing, and when the
-text is not misread), use_instead (null, or the right text).)";
+JSON:
+  A list with the keys text, umid, bytes, kind (basic, extended), label, instance,
+  material, source_pack (null in a basic one), warning (null, or what contradicts SMPTE ST
+  330), misread, read_as (what the library reads; null when that is nothing, and when the
+  text is not misread), use_instead (null, or the right text).
+
+Exit codes:
+  0  done
+  1  a text is no UMID, or the library would misread it
+  2  wrong usage)";
 }
 
 int run_umid(const UmidOptions& options, Streams& streams) {

@@ -9,10 +9,10 @@ int run_probe(const ProbeOptions& options, Streams& streams) {
   if (options.json)
     write_json(streams.out, report);
   else
-    write_text(streams.out, report);
+    write_text(streams.out, report, streams.out_ink);
 
   if (report.complaint) {
-    streams.err << "kvtool: " << *report.complaint << '\n';
+    complain(streams, *report.complaint);
     return BadInput;
   }
   const bool continuous = !report.frame_timecodes || report.frame_timecodes->differences.empty();

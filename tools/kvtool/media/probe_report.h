@@ -80,7 +80,7 @@ struct SourceText {
 // Every field of the source: UMIDs in digits, the name in UTF-8.
 std::vector<SourceText> texts_of(const Media::SourceInfo& source);
 
-void write_text(std::ostream& out, const ProbeReport& report);
+void write_text(std::ostream& out, const ProbeReport& report, Ink ink = {});
 void write_json(std::ostream& out, const ProbeReport& report);
 
 }  // namespace Korvane::Tool

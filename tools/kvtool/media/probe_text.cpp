@@ -22,8 +22,8 @@ void write_video(std::ostream& out, const VideoTrack& track) {
     out << "timecode rate " << track.timecode_rate << '\n';
 }
 
-void write_source(std::ostream& out, const Media::SourceInfo& source) {
-  out << "\nsource\n";
+void write_source(std::ostream& out, const Media::SourceInfo& source, Ink ink) {
+  out << '\n' << ink.heading("source") << '\n';
   for (const SourceText& text : texts_of(source)) {
     if (!text.value) continue;
     std::string name = text.name;
@@ -33,16 +33,18 @@ void write_source(std::ostream& out, const Media::SourceInfo& source) {
   }
 }
 
-void write_start_and_end(std::ostream& out, const ProbeReport& report) {
+void write_start_and_end(std::ostream& out, const ProbeReport& report, Ink ink) {
   if (!report.start) {
     out << "\ntimecode        none\n";
     return;
   }
-  out << "\nstart timecode, stored as " << in_quotes(report.start->text) << " ("
-      << printable_name(report.start->where) << ")\n";
+  out << '\n'
+      << ink.heading("start timecode, stored as " + in_quotes(report.start->text) + " (" +
+                     printable_name(report.start->where) + ')')
+      << '\n';
   write_text(out, forms_of(report.start->value, report.rate.edit), "  ");
   if (!report.end) return;
-  out << "\nend timecode, of the last frame\n";
+  out << '\n' << ink.heading("end timecode, of the last frame") << '\n';
   write_text(out, forms_of(*report.end, report.rate.edit), "  ");
 }
 
@@ -56,8 +58,11 @@ const char* describe(TimecodeCarrier carrier) {
   return "";
 }
 
-void write_list(std::ostream& out, const ProbeReport& report, const FrameTimecodeList& timecodes) {
-  out << "\ntimecodes of " << timecodes.list.size() << " frames, in " << describe(timecodes.carrier)
+void write_list(std::ostream& out, const ProbeReport& report, const FrameTimecodeList& timecodes,
+                Ink ink) {
+  out << '\n'
+      << ink.heading("timecodes of " + std::to_string(timecodes.list.size()) + " frames, in " +
+                     describe(timecodes.carrier))
       << '\n';
   std::size_t column = 0;
   unsigned long long next = 0;
@@ -71,26 +76,27 @@ void write_list(std::ostream& out, const ProbeReport& report, const FrameTimecod
   out << '\n';
 }
 
-void write_differences(std::ostream& out, const FrameTimecodeList& timecodes) {
+void write_differences(std::ostream& out, const FrameTimecodeList& timecodes, Ink ink) {
   out << '\n';
   if (timecodes.differences.empty()) out << "continuous: every timecode follows from the former\n";
   for (const FrameDifference& difference : timecodes.differences)
-    out << difference.difference.line << describe_jump(difference.difference.frames) << '\n';
+    out << difference.difference.line << ink.alarm(describe_jump(difference.difference.frames))
+        << '\n';
 }
 
 }  // namespace
 
-void write_text(std::ostream& out, const ProbeReport& report) {
+void write_text(std::ostream& out, const ProbeReport& report, Ink ink) {
   out << printable_name(report.file) << '\n';
   out << "container       " << report.format_name << '\n';
   for (const VideoTrack& track : report.video) write_video(out, track);
   if (report.frames) out << "frames          " << *report.frames << '\n';
-  if (report.source != nullptr) write_source(out, *report.source);
-  write_text(out, report.tracks);
-  if (report.frames) write_start_and_end(out, report);
+  if (report.source != nullptr) write_source(out, *report.source, ink);
+  write_text(out, report.tracks, ink);
+  if (report.frames) write_start_and_end(out, report, ink);
   if (report.frame_timecodes) {
-    write_list(out, report, *report.frame_timecodes);
-    write_differences(out, *report.frame_timecodes);
+    write_list(out, report, *report.frame_timecodes, ink);
+    write_differences(out, *report.frame_timecodes, ink);
   }
   if (report.start_difference)
     out << "the container starts at " << report.start_difference->container << ", the frames at "

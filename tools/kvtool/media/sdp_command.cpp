@@ -68,7 +68,7 @@ int run_sdp(const SdpOptions& options, Streams& streams) {
   if (options.json)
     write_json(streams.out, table);
   else
-    write_text(streams.out, table);
+    write_text(streams.out, table, "", streams.out_ink);
   return Done;
 }
 

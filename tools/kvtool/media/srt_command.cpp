@@ -139,10 +139,14 @@ SRTSOCKET accept_on(const SrtOptions& options, SRTSOCKET listener) {
   return accepted;
 }
 
-void write_live_text(std::ostream& out, const Media::SRTStreamStatsData& sample, bool first) {
+void write_live_text(std::ostream& out, const Media::SRTStreamStatsData& sample, bool first,
+                     Ink ink) {
   if (first)
-    out << "    time s    rtt ms      Mb/s    received      lost   belated  undecrypted  buffer "
-           "ms\n";
+    out << ink.heading(
+               "    time s    rtt ms      Mb/s    received      lost   belated  undecrypted  "
+               "buffer "
+               "ms")
+        << '\n';
   std::ostringstream line;  // leaves the format of `out` as it was
   line << std::fixed << std::setprecision(3) << std::setw(10)
        << static_cast<double>(sample.timestamp()) / 1000 << std::setw(10) << sample.ms_rtt()
@@ -153,11 +157,12 @@ void write_live_text(std::ostream& out, const Media::SRTStreamStatsData& sample,
 }
 
 // JSON is written as a whole.
-void write_live(std::ostream& out, const SrtOptions& options,
+void write_live(Streams& streams, const SrtOptions& options,
                 const Media::SRTStreamStatsData& sample, bool first) {
+  std::ostream& out = streams.out;
   if (options.csv && first) write_csv(out, srt_table());
   if (options.csv) write_csv_row(out, srt_row(sample));
-  if (!options.csv && !options.json) write_live_text(out, sample, first);
+  if (!options.csv && !options.json) write_live_text(out, sample, first, streams.out_ink);
   out << std::flush;
 }
 
@@ -199,7 +204,7 @@ Media::SRTStreamStatsDataList poll_statistics(SRTSOCKET socket, const SrtOptions
     CBytePerfMon counters{};
     if (!open || srt_bstats(socket, &counters, 1) < 0) break;
     samples.add_value(sample_of(counters));
-    write_live(streams.out, options, *samples.value_at(samples.size() - 1), samples.size() == 1);
+    write_live(streams, options, *samples.value_at(samples.size() - 1), samples.size() == 1);
   }
   return samples;
 }
@@ -223,7 +228,7 @@ int run_srt(const SrtOptions& options, Streams& streams) {
   const Media::SRTStreamStatsDataList samples = poll_statistics(socket, options, settings, streams);
   if (options.json) write_json(streams.out, sample_table(samples));
   if (samples.size() == wanted_samples(options, settings)) return Done;
-  streams.err << "kvtool: the connection ended after " << samples.size() << " samples\n";
+  complain(streams, "the connection ended after " + std::to_string(samples.size()) + " samples");
   return BadInput;
 }
 
