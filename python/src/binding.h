@@ -8,6 +8,7 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -70,8 +71,9 @@ class Class : public py::class_<T, Bases...> {
 
   template <typename Value>
   Class& field(const char* name, Value T::*member) {
-    this->def_readwrite(name, member, doc(name_, name));
-    return *this;
+    return read_write(
+        name, [member](const T& self) { return self.*member; },
+        setter<Value>([member](T& self, Value value) { self.*member = value; }));
   }
 
   template <typename Value>
@@ -94,14 +96,14 @@ class Class : public py::class_<T, Bases...> {
   Class& property(const char* name, Value (T::*get)() const, void (T::*set)(Value)) {
     return read_write(
         name, [get](const T& self) { return (self.*get)(); },
-        [set](T& self, Value value) { (self.*set)(value); });
+        setter<Value>([set](T& self, Value value) { (self.*set)(value); }));
   }
 
   template <typename Value>
   Class& property(const char* name, Value (T::*get)(), void (T::*set)(Value)) {
     return read_write(
         name, [get](T& self) { return (self.*get)(); },
-        [set](T& self, Value value) { (self.*set)(value); });
+        setter<Value>([set](T& self, Value value) { (self.*set)(value); }));
   }
 
   // Of a setter that is const.
@@ -109,20 +111,20 @@ class Class : public py::class_<T, Bases...> {
   Class& property(const char* name, Value (T::*get)() const, void (T::*set)(Value) const) {
     return read_write(
         name, [get](const T& self) { return (self.*get)(); },
-        [set](T& self, Value value) { (self.*set)(value); });
+        setter<Value>([set](T& self, Value value) { (self.*set)(value); }));
   }
 
   // An attribute that may be absent: a copy of its value, or None.
   template <typename Value>
   Class& optional(const char* name, Value* (T::*get)() const, void (T::*set)(Value)) {
     return read_write(name, optional_reader(get),
-                      [set](T& self, Value value) { (self.*set)(value); });
+                      setter<Value>([set](T& self, Value value) { (self.*set)(value); }));
   }
 
   template <typename Value>
   Class& optional(const char* name, Value* (T::*get)() const, void (T::*set)(Value) const) {
     return read_write(name, optional_reader(get),
-                      [set](T& self, Value value) { (self.*set)(value); });
+                      setter<Value>([set](T& self, Value value) { (self.*set)(value); }));
   }
 
   template <typename Value>
@@ -176,6 +178,14 @@ class Class : public py::class_<T, Bases...> {
   const char* name() const { return name_; }
 
  private:
+  // One of a flag takes True and False only.
+  template <typename Value, typename Set>
+  py::cpp_function setter(Set set) {
+    py::arg value("value");
+    value.noconvert(std::is_same_v<Value, bool>);
+    return py::cpp_function(set, py::is_method(*this), value);
+  }
+
   template <typename Value>
   static auto optional_reader(Value* (T::*get)() const) {
     return [get](const T& self) -> py::object {

@@ -38,7 +38,7 @@ void make_error_type(py::module_& module) {
   if (error_type == nullptr) throw py::error_already_set();
   py::object type = py::reinterpret_borrow<py::object>(error_type);
   type.attr("__str__") =
-      py::cpp_function([](const py::object& self) { return self.attr("message"); },
+      py::cpp_function([](const py::object& self) { return py::object(self.attr("message")); },
                        py::name("__str__"), py::is_method(type));
   module.attr("Error") = type;
 }

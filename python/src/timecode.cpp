@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <memory>
 #include <string>
 
 #include "binding.h"
@@ -90,36 +91,41 @@ void bind_records(py::module_& module) {
       .def("__hash__", [](const TimeData& self) { return py::hash(fields_of(self)); });
 }
 
-// The constructor of one number comes after that of one flag: True is a number, too.
+// Made in their place, as a copy would lose the days. The constructor of one number comes after
+// that of one flag: True is a number, too.
 void bind_constructors(Class<Timecode>& type) {
   using Number = long long;
   type.factory(
       [](Number rate, Number hours, Number minutes, Number seconds, Number frames, bool drop_frame,
          bool field_mark) {
-        return Timecode(rate_of(rate), field_of(hours), field_of(minutes), field_of(seconds),
-                        field_of(frames), drop_frame, field_mark);
+        return std::make_unique<Timecode>(rate_of(rate), field_of(hours), field_of(minutes),
+                                          field_of(seconds), field_of(frames), drop_frame,
+                                          field_mark);
       },
       py::arg("rate"), py::arg("hours"), py::arg("minutes"), py::arg("seconds"), py::arg("frames"),
       flag("drop_frame"), flag("field_mark"));
   type.def(py::init([](Number rate, Number hours, Number minutes, Number seconds, bool drop_frame) {
-             return Timecode(rate_of(rate), field_of(hours), field_of(minutes), field_of(seconds),
-                             drop_frame);
+             return std::make_unique<Timecode>(rate_of(rate), field_of(hours), field_of(minutes),
+                                               field_of(seconds), drop_frame);
            }),
            py::arg("rate"), py::arg("hours"), py::arg("minutes"), py::arg("seconds"),
            flag("drop_frame"));
   type.def(py::init([](Number rate, const TimeData& clock, bool drop_frame,
                        const Rational32& edit_rate) {
-             return Timecode(rate_of(rate), clock, drop_frame, edit_rate);
+             return std::make_unique<Timecode>(rate_of(rate), clock, drop_frame, edit_rate);
            }),
            py::arg("rate"), py::arg("clock"), flag("drop_frame"), py::arg("edit_rate"));
   type.def(py::init([](Number rate, Number frame_count, bool drop_frame) {
-             return Timecode(rate_of(rate), frame_count, drop_frame);
+             return std::make_unique<Timecode>(rate_of(rate), frame_count, drop_frame);
            }),
            py::arg("rate"), py::arg("frame_count"), flag("drop_frame"));
-  type.def(
-      py::init([](Number rate, bool drop_frame) { return Timecode(rate_of(rate), drop_frame); }),
-      py::arg("rate"), flag("drop_frame"));
-  type.def(py::init([](Number rate, unsigned int st12) { return Timecode(rate_of(rate), st12); }),
+  type.def(py::init([](Number rate, bool drop_frame) {
+             return std::make_unique<Timecode>(rate_of(rate), drop_frame);
+           }),
+           py::arg("rate"), flag("drop_frame"));
+  type.def(py::init([](Number rate, unsigned int st12) {
+             return std::make_unique<Timecode>(rate_of(rate), st12);
+           }),
            py::arg("rate"), py::arg("st12"));
 }
 
@@ -204,15 +210,16 @@ void bind_timecode_utils(py::module_& module) {
       "load_timecode_from_string",
       [](long long rate, const Narrow& text, Timecode::DropFrameIndication drop_frame,
          Timecode::FieldMarkIndication field_mark) {
-        return TimecodeUtils::load_timecode_from_string(rate_of(rate), text.value.c_str(),
-                                                        drop_frame, field_mark);
+        return new Timecode(TimecodeUtils::load_timecode_from_string(
+            rate_of(rate), text.value.c_str(), drop_frame, field_mark));
       },
       py::arg("rate"), py::arg("text"), kDropFrame(), kFieldMark(),
       doc(name, "load_timecode_from_string"));
   scope.def_static(
       "string_to_timecode",
       [](const Narrow& text, long long rate, bool drop_frame) {
-        return TimecodeUtils::string_to_timecode(text.value.c_str(), rate_of(rate), drop_frame);
+        return new Timecode(
+            TimecodeUtils::string_to_timecode(text.value.c_str(), rate_of(rate), drop_frame));
       },
       py::arg("text"), py::arg("rate"), flag("drop_frame"), doc(name, "string_to_timecode"));
   using Count = unsigned long long;
@@ -220,8 +227,8 @@ void bind_timecode_utils(py::module_& module) {
       "timecode_fixer",
       [](long long rate, Count hours, Count minutes, Count seconds, Count frames, bool drop_frame,
          bool frames_are_full_rate) {
-        return TimecodeUtils::timecode_fixer(rate_of(rate), hours, minutes, seconds, frames,
-                                             drop_frame, frames_are_full_rate);
+        return new Timecode(TimecodeUtils::timecode_fixer(
+            rate_of(rate), hours, minutes, seconds, frames, drop_frame, frames_are_full_rate));
       },
       py::arg("rate"), py::arg("hours"), py::arg("minutes"), py::arg("seconds"), py::arg("frames"),
       flag("drop_frame"), flag("frames_are_full_rate"), doc(name, "timecode_fixer"));
@@ -240,7 +247,8 @@ void bind_timecode_utils(py::module_& module) {
   scope.def_static(
       "load_timecode_from_full_st12m",
       [](long long rate, unsigned long long word, bool ignore_field_mark) {
-        return TimecodeUtils::load_timecode_from_full_st12m(rate_of(rate), word, ignore_field_mark);
+        return new Timecode(
+            TimecodeUtils::load_timecode_from_full_st12m(rate_of(rate), word, ignore_field_mark));
       },
       py::arg("rate"), py::arg("word"), flag("ignore_field_mark"),
       doc(name, "load_timecode_from_full_st12m"));
