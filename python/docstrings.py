@@ -19,6 +19,7 @@ CPP_SENTENCES = [
     r"(Otherwise v|V)alid (until|as long)\b.*",
     r"(The result|All texts) (stays|are) valid until\b.*",
     r"(The getter is )?[Pp]ublished (const|with|without)\b.*",
+    r"Otherwise the getter gives a pointer .*",
     r"Moving copies\.",
     r"One instance is not synchronised, .*",
     r'(Raises|A null one raises) InvalidArgument "Text must not be null"\.',
