@@ -81,6 +81,7 @@ struct LoggerScope {};
 void bind_error(py::module_& module) {
   enumeration<ExceptionCode>(module, "", "ExceptionCode");
   make_error_type(module);
+  // NOLINTNEXTLINE(performance-unnecessary-value-param): the signature is that of pybind11
   py::register_exception_translator([](std::exception_ptr raised) {
     try {
       if (raised) std::rethrow_exception(raised);

@@ -237,8 +237,9 @@ void bind_timecode_utils(py::module_& module) {
   scope.def_static(
       "log_timecode_difference",
       [](const Narrow& label_text, const Timecode& previous, const Timecode& current) {
-        const Timecode before(previous);
-        const Timecode after(current);
+        // Copies, which other threads cannot change meanwhile.
+        const Timecode before(previous);  // NOLINT(performance-unnecessary-copy-initialization)
+        const Timecode after(current);    // NOLINT(performance-unnecessary-copy-initialization)
         const py::gil_scoped_release released;  // as in Logger.info
         TimecodeUtils::log_timecode_difference(label_text.value.c_str(), before, after);
       },
