@@ -6,6 +6,7 @@ option(KV_BUILD_TOOLS "Build kvtool" OFF)
 option(KV_BUILD_EXAMPLES "Build the examples" OFF)
 option(KV_BUILD_FUZZERS "Build the fuzz targets (clang only)" OFF)
 option(KV_BUILD_DOCS "Build the reference documentation with Doxygen" OFF)
+option(KV_BUILD_PYTHON "Build the Python module korvane (needs pybind11)" OFF)
 
 option(KV_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(KV_COVERAGE "Count what runs, for scripts/coverage" OFF)

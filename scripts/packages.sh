@@ -72,4 +72,11 @@ packages_tools=(libavformat-dev libavcodec-dev libavutil-dev libltc-dev
 packages_tests=(libgtest-dev libfmt-dev librapidcheck-dev clang python3-jsonschema fish mandoc zsh)
 packages_checks=(git clang-format clang-tidy googletest g++-mingw-w64-x86-64-posix wine64)
 packages_docs=(doxygen python3 python3-websocket chromium fonts-dejavu-core)
+packages_python=(pybind11-dev python3-dev)
 packages_packing=(dpkg-dev fakeroot file gdb lintian unzip g++-mingw-w64-x86-64-posix wine64)
+
+# How the checks of what is handed out build it. Joined sources and little optimisation, to save time: what is
+# checked is how it is packed. With debug information, in which folders would show; packages are stripped of it.
+# shellcheck disable=SC2034
+packing_settings=(-D CMAKE_UNITY_BUILD=ON -D CMAKE_UNITY_BUILD_BATCH_SIZE=16 -D KV_WARNINGS_AS_ERRORS=ON
+  -D CMAKE_CXX_FLAGS_RELEASE='-O1 -g -DNDEBUG')

@@ -1,6 +1,6 @@
 # Installation: libraries, headers under one root, CMake package and pkg-config file. Every path in
 # them is relative, so that an installed prefix can be moved. Components: runtime, core_runtime,
-# development, tools.
+# development, tools, python.
 include(CMakePackageConfigHelpers)
 
 set(kv_include_dir ${CMAKE_INSTALL_INCLUDEDIR}/kv_Engine_r)
@@ -37,6 +37,8 @@ if(KV_CORE_TARGET AND NOT kv_core_is_installed)
   return()
 endif()
 
+install(DIRECTORY ${PROJECT_SOURCE_DIR}/tests/vectors DESTINATION ${CMAKE_INSTALL_DATADIR}/kv_Engine_r
+  COMPONENT development FILES_MATCHING PATTERN *.csv PATTERN *.md)
 install(EXPORT kv_Engine_rTargets NAMESPACE Korvane:: DESTINATION ${kv_package_dir}
   COMPONENT development)
 configure_package_config_file(

@@ -16,7 +16,8 @@ foreach(package IN LISTS CPACK_KV_PACKAGES)
     configure_file(${CPACK_KV_DEBIAN_DIR}/${package}.lintian-overrides
       ${root}/share/lintian/overrides/${package} COPYONLY)
   endif()
-  file(GLOB binaries ${root}/lib/*/*.so.*.*.* ${root}/bin/*)
+  file(GLOB binaries ${root}/lib/*/*.so.*.*.* ${root}/bin/*
+    ${root}/lib/python3/dist-packages/*.so)
   if(binaries)
     execute_process(COMMAND strip --strip-unneeded --remove-section=.comment --remove-section=.note
       ${binaries} COMMAND_ERROR_IS_FATAL ANY)

@@ -19,6 +19,9 @@ set(CPACK_COMPONENTS_ALL core_runtime runtime development)
 if(KV_BUILD_TOOLS)
   list(APPEND CPACK_COMPONENTS_ALL tools)
 endif()
+if(KV_BUILD_PYTHON)
+  list(APPEND CPACK_COMPONENTS_ALL python)
+endif()
 
 # An interface grows with the minor version only, so patches satisfy each other. Headers are those of
 # exactly one build.
@@ -79,12 +82,26 @@ and recorded longitudinal timecode; shows identifiers of material (UMIDs),
 endpoints of SMPTE ST 2110 streams, statistics of SRT connections, and
 multiviewer layouts.")
 
+# The module is for the minor version of the interpreter that it was built with.
+math(EXPR next_python "${KV_PYTHON_MINOR} + 1")
+set(CPACK_DEBIAN_PYTHON_PACKAGE_NAME python3-korvane)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_SECTION python)
+set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS "libkv-core-r1 ${since}, libkv-engine-r1 ${since}, \
+python3 (>= 3.${KV_PYTHON_MINOR}), python3 (<< 3.${next_python})")
+set(CPACK_COMPONENT_PYTHON_DESCRIPTION
+"vocabulary of broadcast ingest and playout - Python module
+Timecodes (SMPTE ST 12-1), track descriptors, video formats and raw layouts,
+statistics of streams, identifiers of material (SMPTE ST 330), and settings
+of devices and services, as classes of Python.
+.
+This package has the module korvane and its type stubs.")
+
 # For the scripts that cpack runs, which see only what begins with CPACK_.
 set(CPACK_KV_DEBIAN_DIR ${CMAKE_CURRENT_LIST_DIR})
 set(CPACK_KV_COPYRIGHT ${CMAKE_CURRENT_LIST_DIR}/../copyright)
 set(CPACK_KV_CHANGELOG ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
 set(CPACK_KV_PACKAGES core_runtime=libkv-core-r1 runtime=libkv-engine-r1
-  development=libkv-engine-r-dev tools=kvtool)
+  development=libkv-engine-r-dev tools=kvtool python=python3-korvane)
 set(CPACK_PROJECT_CONFIG_FILE ${CMAKE_CURRENT_LIST_DIR}/project_config.cmake)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/before_packing.cmake)
 set(CPACK_POST_BUILD_SCRIPTS ${CMAKE_CURRENT_LIST_DIR}/after_packing.cmake)
