@@ -48,6 +48,13 @@ else()
   endif()
 endif()
 
+# Nobody puts functions in the place of ours, so that calls among our own exported ones are direct; and
+# every name is bound at once, so that calls of others need no stub.
+set(kv_direct_calls "")
+if(NOT WIN32)
+  set(kv_direct_calls -fno-semantic-interposition -fno-plt)
+endif()
+
 # No path of the build machine gets into what is shipped: builds in different folders give the same bytes.
 # Debug builds keep their paths, which debuggers follow.
 set(kv_same_bytes_compile
@@ -86,7 +93,7 @@ function(kv_compile_settings target)
     POSITION_INDEPENDENT_CODE ON)
   target_compile_options(${target} PRIVATE ${kv_warnings}
     $<$<BOOL:${KV_WARNINGS_AS_ERRORS}>:-Werror> ${kv_hardening_compile} ${kv_same_bytes_compile}
-    ${kv_instrumentation})
+    ${kv_direct_calls} ${kv_instrumentation})
   target_link_options(${target} PRIVATE ${kv_hardening_link} ${kv_same_bytes_link}
     ${kv_instrumentation} ${kv_coverage_link})
 endfunction()

@@ -35,20 +35,28 @@ constexpr Stepping stepping_at(unsigned short rate) {
   return is_double_rate(rate) ? Stepping::Pairs : Stepping::Single;
 }
 
+// Finds the day of the frame count, without `wrap` the first even for an hour 24.
+void enter_day(TimecodeState& state, long long frames_per_day, bool wrap) {
+  const long long count = state.frame_count;
+  const bool in_first_day = count >= 0 && count < frames_per_day;
+  long long whole_days = 0;
+  if (wrap && !in_first_day)
+    whole_days = count / frames_per_day - (count % frames_per_day < 0 ? 1 : 0);
+  state.to_first_day = wrapping_multiply(whole_days, -frames_per_day);
+  state.days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
+  const bool in_place = (wrap || in_first_day) && count >= -kFar && count < kFar;
+  state.stepping = in_place ? stepping_at(state.frame_rate) : Stepping::Derived;
+}
+
 // One function for each way of counting: the compiler divides by constants.
 template <unsigned int rate, bool drop>
 void normalize_at(TimecodeState& state, bool wrap) {
-  constexpr long long kPerDay = frames_per_day(rate, drop);
-  const long long count = state.frame_count;
-  long long whole_days = 0;
-  if (wrap && (count < 0 || count >= kPerDay))
-    whole_days = count / kPerDay - (count % kPerDay < 0 ? 1 : 0);
-  state.to_first_day = wrapping_multiply(whole_days, -kPerDay);
-  state.days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
+  constexpr unsigned long long kPerDay = frames_per_day(rate, drop);
+  const auto frame_of_day = static_cast<unsigned long long>(state.absolute_frame_count());
+  // Most frames lie in the same day as the one before.
+  if (state.stepping == Stepping::Derived || frame_of_day >= kPerDay)
+    enter_day(state, kPerDay, wrap);
   derive_label<rate, drop>(state);
-
-  const bool in_place = state.hours < 24 && count >= -kFar && count < kFar;
-  state.stepping = in_place ? stepping_at(rate) : Stepping::Derived;
 }
 
 }  // namespace
