@@ -1,9 +1,14 @@
 // The operations that a host calls for every frame, one at a time, for a tool that counts
-// instructions (scripts/checks/speed):
+// instructions (scripts/checks/speed) and for systems without the benchmark library
+// (scripts/bench):
 //
 //   per_frame                  prints their names
 //   per_frame NAME TIMES       runs one of them
+//   per_frame --time TIMES     prints the nanoseconds of one call of each, the median of 7 runs
 
+#include <algorithm>
+#include <array>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -104,10 +109,31 @@ constexpr Operation kOperations[] = {
     {"share", share},
 };
 
+double nanoseconds_of_a_call(const Operation& operation, long times) {
+  std::array<double, 7> runs = {};
+  for (double& run : runs) {
+    const auto start = std::chrono::steady_clock::now();
+    operation.run(times);
+    const std::chrono::duration<double, std::nano> taken = std::chrono::steady_clock::now() - start;
+    run = taken.count() / static_cast<double>(times);
+  }
+  std::sort(runs.begin(), runs.end());
+  return runs[runs.size() / 2];
+}
+
+void print_times(long times) {
+  for (const Operation& operation : kOperations)
+    std::printf("%s %.2f\n", operation.name, nanoseconds_of_a_call(operation, times));
+}
+
 }  // namespace
 }  // namespace Korvane
 
 int main(int count, char** arguments) {
+  if (count == 3 && std::strcmp(arguments[1], "--time") == 0) {
+    Korvane::print_times(std::max(1L, std::atol(arguments[2])));
+    return EXIT_SUCCESS;
+  }
   for (const Korvane::Operation& operation : Korvane::kOperations) {
     if (count == 1) std::puts(operation.name);
     if (count != 3 || std::strcmp(operation.name, arguments[1]) != 0) continue;

@@ -1,7 +1,7 @@
 // Words of SMPTE ST 12 of 32 bits, valid or not, at every rate: which ones are refused and why, and
 // what the others say, against a plain reading of their fields.
 //
-//   st12_words STRIDE [THINNING]
+//   st12_words STRIDE [THINNING [RATE]]
 //
 // Of each STRIDE successive words one is read, drawn at random but the same in each run; 1 reads
 // all. A refusal costs many times as much as a reading, so of the words that are to be refused only
@@ -121,9 +121,10 @@ Tally read_words(const Reading& reading, unsigned int stride, unsigned int thinn
   return tally;
 }
 
-int run(unsigned int stride, unsigned int thinning) {
+int run(unsigned int stride, unsigned int thinning, long only_rate) {
   unsigned long long wrong = 0;
   for (const unsigned short rate : kRates) {
+    if (only_rate != 0 && rate != only_rate) continue;
     const Tally tally = read_words(Reading(rate), stride, thinning);
     std::printf("rate %u: %llu accepted, %llu refused, %llu wrong\n", +rate, tally.accepted,
                 tally.refused, tally.wrong);
@@ -139,9 +140,11 @@ int run(unsigned int stride, unsigned int thinning) {
 int main(int argc, char** argv) {
   const long stride = argc > 1 ? std::atol(argv[1]) : 0;
   const long thinning = argc > 2 ? std::atol(argv[2]) : 1;
-  if (argc > 3 || stride < 1 || stride > 1L << 24 || thinning < 1) {
-    std::fputs("usage: st12_words STRIDE [THINNING]\n", stderr);
+  const long only_rate = argc > 3 ? std::atol(argv[3]) : 0;
+  if (argc > 4 || stride < 1 || stride > 1L << 24 || thinning < 1) {
+    std::fputs("usage: st12_words STRIDE [THINNING [RATE]]\n", stderr);
     return 2;
   }
-  return Korvane::run(static_cast<unsigned int>(stride), static_cast<unsigned int>(thinning));
+  return Korvane::run(static_cast<unsigned int>(stride), static_cast<unsigned int>(thinning),
+                      only_rate);
 }
