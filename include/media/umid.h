@@ -17,9 +17,10 @@ struct UmidPrivate;
 class KV_ENGINE_API Umid {
  public:
   // Takes two hexadecimal digits for each byte and passes over everything else, wherever it stands:
-  // of a prefix 0x the 0 remains. Digits are those of ASCII, of either case. Without any digit
-  // there are no bytes. An odd number of digits raises std::out_of_range "invalid string position",
-  // and a null text InvalidArgument "Text must not be null".
+  // of a prefix 0x the 0 remains, and makes the digits of whole bytes odd in number. Digits are
+  // those of ASCII, of either case. Without any digit there are no bytes. An odd number of digits
+  // raises std::out_of_range "invalid string position", and a null text InvalidArgument "Text must
+  // not be null".
   Umid(const wchar_t* text);
 
   Umid(const Umid& other);
