@@ -65,6 +65,12 @@ unpack() {
   rm -rf "$work"
 }
 
+# clang with the run time of its sanitizers and of its fuzzer.
+need_clang_sanitizers() {
+  need clang
+  need "libclang-rt-$(clang --version | sed -n '1s/.*version \([0-9]*\).*/\1/p')-dev"
+}
+
 # What every build needs, and what the parts need on top.
 packages_build=(g++ cmake ninja-build pkg-config libboost-dev)
 packages_tools=(libavformat-dev libavcodec-dev libavutil-dev libltc-dev
