@@ -171,10 +171,15 @@ def literal(text):
     return " ".join(f'"{line}"' for line in escaped.replace("\n", "\\n\n").split("\n")) or '""'
 
 
+def exported_headers(folder):
+    """Without the companion headers, which are C++ that Python has of its own."""
+    return sorted(path for path in folder.glob("*/*.h") if path.parent.name != "ext")
+
+
 def main():
     output, *folders = map(pathlib.Path, sys.argv[1:])
     docs, enumerators = {}, {}
-    for path in sorted(path for folder in folders for path in folder.glob("*/*.h")):
+    for path in (path for folder in folders for path in exported_headers(folder)):
         Header(docs, enumerators).read(path.read_text(encoding="utf-8").split("\n"))
     docs = {key: "\n\n".join(texts) for key, texts in docs.items()}
     lines = ['#include "docstrings.h"', "", "namespace Korvane::Python {", "namespace {", ""]

@@ -138,7 +138,7 @@ class Completeness(unittest.TestCase):
 
         docs, enumerators = {}, {}
         for folder in ("include", "core/include"):
-            for path in (STUBS.parent.parent / folder).glob("*/*.h"):
+            for path in docstrings.exported_headers(STUBS.parent.parent / folder):
                 docstrings.Header(docs, enumerators).read(path.read_text(encoding="utf-8").split("\n"))
         keys = [key for key in docs if key.split(".")[0] not in NOT_IN_PYTHON]
         missing = []
