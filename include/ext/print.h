@@ -284,9 +284,9 @@ struct Printer {
     line += exception.message();
   }
 
-  // Umid::c_str writes into the object.
   static void put(std::string& line, const Media::Umid& umid) {
-    const Media::Umid copy(umid);
+    // Umid::c_str writes into the object.
+    const Media::Umid copy(umid);  // NOLINT(performance-unnecessary-copy-initialization)
     for (const wchar_t* digit = copy.c_str(); *digit != L'\0'; ++digit)
       line += static_cast<char>(*digit);
   }
@@ -584,9 +584,9 @@ struct Printer {
 
   // Steps `text` on. Outside Windows a unit may also be a whole code point.
   static std::uint32_t next_code_point(const wchar_t*& text) {
-    const auto unit = static_cast<std::uint32_t>(*text++);
+    const std::uint32_t unit = static_cast<char32_t>(*text++);
     if (unit < 0xD800 || unit > 0xDFFF) return unit <= 0x10FFFF ? unit : 0xFFFD;
-    const auto next = static_cast<std::uint32_t>(*text);
+    const std::uint32_t next = static_cast<char32_t>(*text);
     if (unit > 0xDBFF || next < 0xDC00 || next > 0xDFFF) return 0xFFFD;
     ++text;
     return 0x10000 + ((unit - 0xD800) << 10U) + (next - 0xDC00);

@@ -84,7 +84,8 @@ inline bool is_half_swapped(const unsigned char* label, const unsigned char* sec
 
 // The number of bytes.
 inline std::size_t size(const Media::Umid& umid) {
-  const Media::Umid copy(umid);
+  // Umid::c_str writes into the object.
+  const Media::Umid copy(umid);  // NOLINT(performance-unnecessary-copy-initialization)
   return std::wcslen(copy.c_str()) / 2;
 }
 
