@@ -197,7 +197,7 @@ class Interface(Printer):
 class Recorded(Printer):
     """Of a class with a private record, and of the record itself."""
 
-    library = "kv_Engine_r"
+    described_by = "kv_Engine_r"
     pointer = "private_"  # the member that leads to the record, and what that is called
     suffix = "Private"
     hidden = ()  # members of the record that say nothing to users
@@ -215,7 +215,7 @@ class Recorded(Printer):
         try:
             return gdb.lookup_type(name)
         except gdb.error:
-            raise NoDebugInformation(self.library) from None
+            raise NoDebugInformation(self.described_by) from None
 
     def record_of(self, value, name):
         record_type = self.described_type(name + self.suffix)
@@ -350,7 +350,7 @@ class Singleton(Recorded):
 
 
 class CoreException(Recorded):
-    library = "kv_Core_r"
+    described_by = "kv_Core_r"
     pointer = "state_"
     suffix = "State"
 

@@ -83,14 +83,14 @@ def build(arguments):
     program = arguments.work / "objects"
     subprocess.run([arguments.compiler, "-std=c++11", "-g", "-O0", "-Wall", "-Wextra", "-Wpedantic",
                     "-Wno-unused", *(f"-I{root}" for root in arguments.include),
-                    HERE / "objects.cpp", "-o", program, *arguments.library], check=True)
+                    HERE / "objects.cpp", "-o", program, *arguments.libraries], check=True)
     return program
 
 
 def without_debug_information(arguments):
     folder = arguments.work / "stripped"
     folder.mkdir(exist_ok=True)
-    for library in arguments.library:
+    for library in arguments.libraries:
         subprocess.run([arguments.objcopy, "--strip-debug", library, folder / library.name],
                        check=True)
     return folder
@@ -103,15 +103,15 @@ def main():
     parser.add_argument("--objcopy", required=True)
     parser.add_argument("--printers", required=True)
     parser.add_argument("--include", action="append", required=True)
-    parser.add_argument("--library", action="append", required=True, type=pathlib.Path,
-                        help="under the name by which programs load it")
+    parser.add_argument("--library", dest="libraries", action="append", required=True,
+                        type=pathlib.Path, help="under the name by which programs load it")
     parser.add_argument("--layout", required=True, type=pathlib.Path)
     parser.add_argument("--work", required=True, type=pathlib.Path)
     arguments = parser.parse_args()
     arguments.work.mkdir(parents=True, exist_ok=True)
 
     program = build(arguments)
-    libraries = arguments.library[0].parent
+    libraries = arguments.libraries[0].parent
     text = (HERE / "transcript.txt").read_text(encoding="utf-8")
     transcript = text[text.index(PROMPT):]
     core = arguments.work / "core"
