@@ -1,4 +1,5 @@
 #include <netdb.h>
+#include <srt/srt.h>
 
 #include <array>
 #include <charconv>
@@ -7,6 +8,7 @@
 #include <memory>
 #include <sstream>
 
+#include "ext/srt.h"
 #include "failure.h"
 #include "input.h"
 #include "media/srt_settings.h"
@@ -203,7 +205,7 @@ Media::SRTStreamStatsDataList poll_statistics(SRTSOCKET socket, const SrtOptions
     const bool open = receive_until(socket, next);
     CBytePerfMon counters{};
     if (!open || srt_bstats(socket, &counters, 1) < 0) break;
-    samples.add_value(sample_of(counters));
+    samples.add_value(Ext::from_srt(counters));
     write_live(streams, options, *samples.value_at(samples.size() - 1), samples.size() == 1);
   }
   return samples;

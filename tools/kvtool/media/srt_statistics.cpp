@@ -1,7 +1,5 @@
 #include "media/srt_statistics.h"
 
-#include "ext/srt.h"
-
 namespace Korvane::Tool {
 namespace {
 
@@ -60,10 +58,6 @@ constexpr SrtField kSrtFields[] = {
 };
 
 }  // namespace
-
-Media::SRTStreamStatsData sample_of(const CBytePerfMon& counters) {
-  return Ext::from_srt(counters);
-}
 
 Table srt_table() {
   Table table;

@@ -1,17 +1,12 @@
-// The statistics of an SRT connection as the library's record.
+// The statistics of an SRT connection as a table.
 
 #ifndef KV_TOOLS_KVTOOL_MEDIA_SRT_STATISTICS_H
 #define KV_TOOLS_KVTOOL_MEDIA_SRT_STATISTICS_H
-
-#include <srt/srt.h>
 
 #include "media/srt_stream_stats_data.h"
 #include "table.h"
 
 namespace Korvane::Tool {
-
-// Of the connection's receiver: its own rate, latency and losses stand for the connection's.
-Media::SRTStreamStatsData sample_of(const CBytePerfMon& counters);
 
 // A column for each field, by its name; no rows.
 Table srt_table();
