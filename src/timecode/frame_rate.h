@@ -17,7 +17,9 @@ constexpr bool is_supported_rate(unsigned short rate) {
 constexpr bool can_drop_frames(unsigned short rate) { return rate == 30 || rate == 60; }
 
 // What a label's `frames` field counts: single frames, or pairs at double rates.
-constexpr int frames_per_label_frame(unsigned short rate) { return is_double_rate(rate) ? 2 : 1; }
+constexpr unsigned int frames_per_label_frame(unsigned short rate) {
+  return is_double_rate(rate) ? 2 : 1;
+}
 
 // The last value of a label's `frames` field.
 constexpr unsigned char last_label_frame(unsigned short rate) {
@@ -25,10 +27,13 @@ constexpr unsigned char last_label_frame(unsigned short rate) {
 }
 
 // Drop-frame counting leaves out this many frame numbers each minute but the tenth.
-constexpr int dropped_per_minute(unsigned short rate) { return is_double_rate(rate) ? 4 : 2; }
+constexpr unsigned int dropped_per_minute(unsigned short rate) {
+  return is_double_rate(rate) ? 4 : 2;
+}
 
 // The frames that lie before hh:mm:00:00 less those at that label without drop-frame counting.
-constexpr int dropped_before(unsigned short rate, int hours, int minutes) {
+constexpr unsigned int dropped_before(unsigned short rate, unsigned int hours,
+                                      unsigned int minutes) {
   return (hours * 54 - minutes / 10 + minutes) * dropped_per_minute(rate);
 }
 

@@ -88,20 +88,30 @@ void write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_
   *out = '\0';
 }
 
-std::string expand_pattern(const TimecodeState& state, std::string_view pattern) {
-  std::string result(pattern.size(), '\0');  // a number is shorter than its token
-  char* out = result.data();
+ExpandedPattern expand_pattern(const TimecodeState& state, std::string_view pattern, char* narrow,
+                               wchar_t* wide) {
+  std::size_t size = 0;
+  unsigned char all_bits = 0;
   const char* const end = pattern.data() + pattern.size();
   for (const char* next = pattern.data(); next != end;) {
     if (const unsigned char* const field = field_at(state, next, end)) {
-      out = write_number(*field, out);
+      for (const char digit : kTwoDigits[*field]) {
+        narrow[size] = digit;
+        wide[size] = static_cast<wchar_t>(digit);
+        ++size;
+      }
       next += kTokenLength;
     } else {
-      *out++ = *next++;
+      const auto unit = static_cast<unsigned char>(*next++);
+      all_bits |= unit;
+      narrow[size] = static_cast<char>(unit);
+      wide[size] = static_cast<wchar_t>(unit);
+      ++size;
     }
   }
-  result.resize(static_cast<std::size_t>(out - result.data()));
-  return result;
+  narrow[size] = '\0';
+  wide[size] = L'\0';
+  return {size, all_bits < 0x80};
 }
 
 }  // namespace Korvane

@@ -1,17 +1,9 @@
 #include "timecode/text_conversion.h"
 
-#include <algorithm>
-#include <limits>
-
 #include "core/exception.h"
 
 namespace Korvane {
 namespace {
-
-template <typename Unit>
-bool fits_converter(std::basic_string_view<Unit> text) {
-  return text.size() <= static_cast<std::size_t>(std::numeric_limits<int>::max());
-}
 
 // Query the length, make room, convert. Too long a text counts as a failed query.
 template <typename To, typename From>
@@ -19,7 +11,7 @@ std::basic_string<To> convert(std::basic_string_view<From> text,
                               int (*function)(const From*, int, To*, int), const char* query_failed,
                               const char* length_differs) {
   if (text.empty()) return {};
-  const bool fits = fits_converter(text);
+  const bool fits = text.size() <= kLongestConverted;
   const int size = fits ? static_cast<int>(text.size()) : 0;
   const int length = fits ? function(text.data(), size, nullptr, 0) : 0;
   exception_enforce(length > 0, StringConversionFailed, query_failed, true);
@@ -36,16 +28,6 @@ std::wstring utf8_to_wide(std::string_view text, const TextConverter& converter)
   // The second text has always been the one of the other direction; callers may rely on it.
   return convert<wchar_t>(text, converter.to_wide, "Unable to convert from string to wstring",
                           "Unable to convert from wstring to string");
-}
-
-void assign_utf8(std::wstring& result, std::string_view text) {
-  const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
-  if (!fits_converter(text) || !std::all_of(text.begin(), text.end(), is_ascii)) {
-    result = utf8_to_wide(text);
-    return;
-  }
-  result.resize(text.size());
-  std::copy(text.begin(), text.end(), result.begin());
 }
 
 std::string wide_to_utf8(std::wstring_view text, const TextConverter& converter) {

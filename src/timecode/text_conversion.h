@@ -4,10 +4,15 @@
 #ifndef KV_ENGINE_SRC_TIMECODE_TEXT_CONVERSION_H
 #define KV_ENGINE_SRC_TIMECODE_TEXT_CONVERSION_H
 
+#include <cstddef>
+#include <limits>
 #include <string>
 #include <string_view>
 
 namespace Korvane {
+
+// Longer texts are refused, as a failed query of their length.
+constexpr std::size_t kLongestConverted = std::numeric_limits<int>::max();
 
 // What a platform provides. Each function converts `size` units (at least one) into `out`, which
 // has room for `capacity` units, and returns the number of units written; with capacity 0 it writes
@@ -24,10 +29,6 @@ const TextConverter& platform_text_converter();
 // fails, and "Unable to convert from wstring to string" when the converted length is another.
 std::wstring utf8_to_wide(std::string_view text,
                           const TextConverter& converter = platform_text_converter());
-
-// As utf8_to_wide, into the room that `result` has where `text` is ASCII. On failure `result`
-// stays.
-void assign_utf8(std::wstring& result, std::string_view text);
 
 // Raises StringConversionFailed "Unable to convert from wstring to string" in both cases.
 std::string wide_to_utf8(std::wstring_view text,

@@ -41,12 +41,8 @@ unsigned long long pack_label(const TimecodeState& state, const St12Layout& layo
 }
 
 const FormattedText& formatted(TimecodePrivate& record, std::string_view pattern) {
-  std::string narrow = expand_pattern(record, pattern);  // `pattern` may be the former result
-  if (record.formatted == nullptr) record.formatted = std::make_unique<FormattedText>();
-  FormattedText& text = *record.formatted;
-  assign_utf8(text.wide, narrow);
-  text.narrow = std::move(narrow);
-  return text;
+  if (record.formatted == nullptr) record.formatted = std::make_unique<FormattedTexts>();
+  return record.formatted->write(record, pattern);
 }
 
 const TimecodePrivate& printed(TimecodePrivate& record, Timecode::DropFrameIndication drop_frame,
@@ -95,7 +91,6 @@ Timecode::Timecode(unsigned short rate, TimeData clock, bool drop_frame, Rationa
 
 Timecode::Timecode(unsigned short rate, long long frame_count, bool drop_frame)
     : private_(new TimecodePrivate(rate, frame_count, drop_frame)) {
-  private_->validate_rate();
   private_->normalize(true);
 }
 

@@ -4,23 +4,17 @@
 #define KV_ENGINE_SRC_TIMECODE_TIMECODE_PRIVATE_H
 
 #include <memory>
-#include <string>
 
+#include "timecode/formatted_texts.h"
 #include "timecode/label_text.h"
 #include "timecode/timecode_state.h"
 
 namespace Korvane {
 
-// What formatter() handed out last.
-struct FormattedText {
-  std::wstring wide;
-  std::string narrow;
-};
-
 struct TimecodePrivate : TimecodeState {
   wchar_t text_wide[kLabelTextCapacity];  // written as a whole with every text
   char text_narrow[kLabelTextCapacity] = {};
-  std::unique_ptr<FormattedText> formatted;  // null until the first call
+  std::unique_ptr<FormattedTexts> formatted;  // null until the first call
 
   using TimecodeState::TimecodeState;
 

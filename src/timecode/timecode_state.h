@@ -25,31 +25,24 @@ struct TimecodeState {
   bool field_mark = false;
   short days = 0;  // 0 in a copy until it is stepped
   Stepping stepping = Stepping::Derived;
-  unsigned char last_frame;  // of a second of labels
+  unsigned char last_frame = 0;  // of a second of labels, once the label is known to be right
 
   // All zero. `drop` is kept only at rates that can drop frames.
   TimecodeState(unsigned short rate, bool drop)
-      : frame_rate(rate),
-        drop_frame(drop && can_drop_frames(rate)),
-        last_frame(last_label_frame(rate)) {}
+      : frame_rate(rate), drop_frame(drop && can_drop_frames(rate)) {}
   TimecodeState(unsigned short rate, long long count, bool drop) : TimecodeState(rate, drop) {
     frame_count = count;
   }
 
-  // All that can be wrong with a state whose label is still zero.
-  void validate_rate() const;
-
-  // Raises the first error of rate and label; `check_drop_frame_label` also refuses the labels that
-  // drop-frame counting leaves out.
-  void validate(bool check_drop_frame_label) const;
-
   // The frame count of the label, which may be one that drop-frame counting leaves out.
   long long count_of_label() const;
 
-  // Validates the label, takes the frame count from it and normalizes.
+  // Raises the first error of rate and label, takes the frame count from the label and normalizes.
+  // `check_drop_frame_label` also refuses the labels that drop-frame counting leaves out.
   void recompute_from_fields(bool wrap, bool check_drop_frame_label);
 
-  // Derives everything from the frame count; with `wrap` the label is brought into one day.
+  // Derives everything from the frame count; with `wrap` the label is brought into one day. Raises
+  // that the rate is not supported.
   void normalize(bool wrap);
 
   long long absolute_frame_count() const { return wrapping_add(frame_count, to_first_day); }
@@ -76,9 +69,6 @@ struct TimecodeState {
 
  private:
   static constexpr int kFirstNeverDropped = 2;  // frame of a label at second 0
-
-  // As normalize() for a first time, where the label is known to be right.
-  void keep_label();
 
   void step_further();
   void step_further_back();

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <random>
 #include <regex>
@@ -24,13 +25,35 @@ std::string expand_by_regex(const TimecodeState& state, std::string text) {
   return std::regex_replace(text, std::regex("%FF"), two_digits(state.frames));
 }
 
+// The narrow text. The wide one is the same, byte for unit.
+std::string expand(const TimecodeState& state, const std::string& pattern) {
+  std::string narrow(pattern.size() + 1, 'x');
+  std::wstring wide(pattern.size() + 1, L'x');
+  const ExpandedPattern expanded = expand_pattern(state, pattern, narrow.data(), wide.data());
+  EXPECT_EQ('\0', narrow.at(expanded.size));
+  EXPECT_EQ(L'\0', wide.at(expanded.size));
+  const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  EXPECT_EQ(std::all_of(pattern.begin(), pattern.end(), is_ascii), expanded.ascii);
+  narrow.resize(expanded.size);
+  for (std::size_t i = 0; i < narrow.size(); ++i)
+    EXPECT_EQ(static_cast<unsigned char>(narrow[i]), wide[i]);
+  return narrow;
+}
+
+TEST(ExpandPattern, TooLongATextIsLeftToTheConversion) {
+  constexpr std::size_t kLongest = 2147483647;
+  EXPECT_TRUE((ExpandedPattern{kLongest, true}).wide_is_right());
+  EXPECT_FALSE((ExpandedPattern{kLongest, false}).wide_is_right());
+  EXPECT_FALSE((ExpandedPattern{kLongest + 1, true}).wide_is_right());
+}
+
 TEST(ExpandPattern, LeavesWhatIsNoToken) {
   TimecodeState state(30, false);
   state.hours = 1;
   for (const char* const pattern : {"xHH", "HHH", "%", "%H", "%HM", "%hh", "%XX", "%%H", ""})
-    EXPECT_EQ(pattern, expand_pattern(state, pattern));
-  EXPECT_EQ("%01H", expand_pattern(state, "%%HHH"));
-  EXPECT_EQ("0101%H", expand_pattern(state, "%HH%HH%H"));
+    EXPECT_EQ(pattern, expand(state, pattern));
+  EXPECT_EQ("%01H", expand(state, "%%HHH"));
+  EXPECT_EQ("0101%H", expand(state, "%HH%HH%H"));
 }
 
 TEST(ExpandPattern, EqualsFourRegexReplacements) {
@@ -46,7 +69,7 @@ TEST(ExpandPattern, EqualsFourRegexReplacements) {
     std::string pattern;
     for (auto count = random() % 12; count > 0; --count)
       pattern += pieces[random() % std::size(pieces)];
-    ASSERT_EQ(expand_by_regex(state, pattern), expand_pattern(state, pattern)) << pattern;
+    ASSERT_EQ(expand_by_regex(state, pattern), expand(state, pattern)) << pattern;
   }
 }
 

@@ -97,17 +97,6 @@ TEST(Utf8ToWide, WellFormedAndIllFormedText) {
   }
 }
 
-TEST(AssignUtf8, AsciiAndOtherText) {
-  std::wstring result = L"before";
-  for (const Decoding& one : kDecodings) {
-    SCOPED_TRACE(::testing::PrintToString(one.utf8));
-    assign_utf8(result, one.utf8);
-    EXPECT_EQ(wide(one.utf16), result);
-  }
-  assign_utf8(result, "");
-  EXPECT_EQ(L"", result);
-}
-
 struct Encoding {
   std::vector<unsigned int> utf16;
   std::string utf8;
@@ -204,10 +193,6 @@ TEST(TextConversion, ATextOf2GibiIsAFailedLengthQuery) {
                      [] { utf8_to_wide(std::string_view("x", kTooLong)); }));
   EXPECT_TRUE(raises(StringConversionFailed, kToNarrowMessage,
                      [] { wide_to_utf8(std::wstring_view(L"x", kTooLong)); }));
-  std::wstring kept = L"kept";
-  EXPECT_TRUE(raises(StringConversionFailed, kToWideMessage,
-                     [&kept] { assign_utf8(kept, std::string_view("x", kTooLong)); }));
-  EXPECT_EQ(L"kept", kept);
 }
 
 TEST(TextConversion, ThePlatformConverterRefusesTooLittleRoom) {
