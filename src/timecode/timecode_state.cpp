@@ -12,11 +12,11 @@ namespace {
 constexpr long long kFar = 1LL << 62;  // from here on steps mind the ends of 64 bits
 
 // A way of counting. All work below is instantiated for each: the compiler divides by constants.
-template <unsigned short rate_at, bool drop_at>
+template <unsigned short rate, bool drop>
 struct Counting {
-  static constexpr unsigned short rate = rate_at;
-  static constexpr bool drop = drop_at;
-  static constexpr Stepping stepping = is_double_rate(rate) ? Stepping::Pairs : Stepping::Single;
+  static constexpr unsigned short kRate = rate;
+  static constexpr bool kDrop = drop;
+  static constexpr Stepping kStepping = is_double_rate(rate) ? Stepping::Pairs : Stepping::Single;
 };
 
 template <typename Work>
@@ -55,7 +55,7 @@ inline long long count_of(const TimecodeState& label, unsigned short rate, bool 
   // In 64 bits for the sake of rates that nothing has refused yet.
   const unsigned int seconds_of_day = (label.hours * 60U + label.minutes) * 60U + label.seconds;
   unsigned long long count = 1ULL * seconds_of_day * rate;
-  count += 1U * label.frames * frames_per_label_frame(rate);
+  count += 1ULL * label.frames * frames_per_label_frame(rate);
   if (is_double_rate(rate) && label.field_mark) ++count;
   if (drop) count -= dropped_before(rate, label.hours, label.minutes);
   return static_cast<long long>(count);
@@ -65,8 +65,8 @@ inline long long count_of(const TimecodeState& label, unsigned short rate, bool 
 // it. Of ten minutes all but the first drop numbers; without drop-frame counting none does.
 template <typename Counting>
 void derive_label(TimecodeState& state) {
-  constexpr unsigned int kRate = Counting::rate;
-  constexpr unsigned int kDropped = Counting::drop ? dropped_per_minute(kRate) : 0;
+  constexpr unsigned int kRate = Counting::kRate;
+  constexpr unsigned int kDropped = Counting::kDrop ? dropped_per_minute(kRate) : 0;
   constexpr unsigned int kPerMinute = 60 * kRate - kDropped;
   constexpr unsigned int kPerTenMinutes = 10 * kPerMinute + kDropped;
   const auto frame_of_day = static_cast<unsigned int>(state.absolute_frame_count());
@@ -85,7 +85,7 @@ void derive_label(TimecodeState& state) {
 // Finds the day of the frame count, without `wrap` the first even for an hour 24.
 template <typename Counting>
 void enter_day(TimecodeState& state, bool wrap) {
-  constexpr long long kPerDay = frames_per_day(Counting::rate, Counting::drop);
+  constexpr long long kPerDay = frames_per_day(Counting::kRate, Counting::kDrop);
   const long long count = state.frame_count;
   const bool in_first_day = count >= 0 && count < kPerDay;
   long long whole_days = 0;
@@ -93,13 +93,13 @@ void enter_day(TimecodeState& state, bool wrap) {
   state.to_first_day = wrapping_multiply(whole_days, -kPerDay);
   state.days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
   const bool in_place = (wrap || in_first_day) && count >= -kFar && count < kFar;
-  state.last_frame = last_label_frame(Counting::rate);
-  state.stepping = in_place ? Counting::stepping : Stepping::Derived;
+  state.last_frame = last_label_frame(Counting::kRate);
+  state.stepping = in_place ? Counting::kStepping : Stepping::Derived;
 }
 
 template <typename Counting>
 void normalize_by(TimecodeState& state, bool wrap) {
-  constexpr unsigned long long kPerDay = frames_per_day(Counting::rate, Counting::drop);
+  constexpr unsigned long long kPerDay = frames_per_day(Counting::kRate, Counting::kDrop);
   const auto frame_of_day = static_cast<unsigned long long>(state.absolute_frame_count());
   // Most frames lie in the same day as the one before.
   if (state.stepping == Stepping::Derived || frame_of_day >= kPerDay)
@@ -113,15 +113,15 @@ long long TimecodeState::count_of_label() const { return count_of(*this, frame_r
 
 void TimecodeState::recompute_from_fields(bool wrap, bool check_drop_frame_label) {
   with_counting_of(*this, [=, this]<typename Counting>(Counting) {
-    const bool drops_checked = Counting::drop && check_drop_frame_label;
-    if (const char* const fault = fault_of(*this, last_label_frame(Counting::rate), drops_checked))
+    const bool drops_checked = Counting::kDrop && check_drop_frame_label;
+    if (const char* const fault = fault_of(*this, last_label_frame(Counting::kRate), drops_checked))
       return exception_throw(InvalidArgument, fault, true);
-    frame_count = count_of(*this, Counting::rate, Counting::drop);
+    frame_count = count_of(*this, Counting::kRate, Counting::kDrop);
     // A label of the day that counting does not leave out is what it would be derived to.
     if (!check_drop_frame_label || hours == 24) return normalize_by<Counting>(*this, wrap);
-    field_mark = field_mark && is_double_rate(Counting::rate);
-    stepping = Counting::stepping;
-    last_frame = last_label_frame(Counting::rate);
+    field_mark = field_mark && is_double_rate(Counting::kRate);
+    stepping = Counting::kStepping;
+    last_frame = last_label_frame(Counting::kRate);
   });
 }
 
