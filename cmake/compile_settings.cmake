@@ -1,5 +1,6 @@
 # kv_compile_settings(<target>): how our own code is compiled and linked. All private: nothing of it
 # reaches the users of an installed library.
+include(CheckCXXCompilerFlag)
 include(CheckCXXSourceCompiles)
 include(${CMAKE_CURRENT_LIST_DIR}/exported_names.cmake)
 
@@ -53,6 +54,14 @@ endif()
 set(kv_direct_calls "")
 if(NOT WIN32)
   set(kv_direct_calls -fno-semantic-interposition -fno-plt)
+endif()
+
+# Records of some hundred bytes are copied by the C library: an SRT sample in three quarters of the time
+# that GCC's choice, an instruction that copies on its own (rep movs), takes.
+check_cxx_compiler_flag(-mstringop-strategy=libcall KV_HAS_STRINGOP_STRATEGY)
+set(kv_copies_by_calls "")
+if(KV_HAS_STRINGOP_STRATEGY AND NOT WIN32)
+  set(kv_copies_by_calls -mstringop-strategy=libcall)
 endif()
 
 # No path of the build machine gets into what is shipped: builds in different folders give the same bytes.
