@@ -8,6 +8,7 @@
 #include <string>
 
 #include "media/packet_decoder.h"
+#include "media/packet_reader.h"
 #include "rate.h"
 #include "timecode/timecode.h"
 
@@ -31,23 +32,30 @@ class FrameTimecodes {
   TimecodeCarrier carrier() const { return carrier_; }
 
   // All frames once next() has given nothing.
-  unsigned long long frames_read() const { return frames_; }
+  unsigned long long frames_read() const { return decoder_ ? frames_ : pictures_ - discarded_; }
 
   // Frames that are in the file but, by its edit list, not part of the programme.
   unsigned long long frames_discarded() const { return discarded_; }
 
  private:
+  bool advance();
   void visit_packet(const AVPacket& packet);
   void visit_frame(const AVFrame& frame);
+  std::optional<Timecode> timecode_in(const AVPacket& packet) const;
+
+  // What `read` finds for `frame`.
+  template <typename Read>
+  void add(unsigned long long frame, Read read);
 
   const std::string& name_;
   Rate rate_;
   TimecodeCarrier carrier_;
   unsigned long long pictures_ = 0;  // in coded order
-  unsigned long long frames_ = 0;    // in display order
+  unsigned long long frames_ = 0;    // in display order, where they are decoded
   unsigned long long discarded_ = 0;
   std::deque<FrameTimecode> found_;
-  PacketDecoder decoder_;
+  std::optional<PacketReader> packets_;  // either these
+  std::optional<PacketDecoder> decoder_;
 };
 
 }  // namespace Korvane::Tool

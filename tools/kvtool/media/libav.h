@@ -14,6 +14,7 @@ extern "C" {
 }
 
 #include <memory>
+#include <new>
 #include <string>
 
 namespace Korvane::Tool {
@@ -31,6 +32,13 @@ struct LibavDeleter {
 
 template <typename Object>
 using LibavPtr = std::unique_ptr<Object, LibavDeleter>;
+
+// What av_..._alloc() gave. Raises std::bad_alloc when that is nothing.
+template <typename Object>
+LibavPtr<Object> required(Object* object) {
+  if (object == nullptr) throw std::bad_alloc();
+  return LibavPtr<Object>(object);
+}
 
 inline std::string libav_reason(int error) {
   char text[AV_ERROR_MAX_STRING_SIZE] = {};

@@ -1,18 +1,11 @@
 #include "media/packet_decoder.h"
 
-#include <new>
 #include <utility>
 
 #include "failure.h"
 
 namespace Korvane::Tool {
 namespace {
-
-template <typename Object>
-LibavPtr<Object> required(Object* object) {
-  if (object == nullptr) throw std::bad_alloc();
-  return LibavPtr<Object>(object);
-}
 
 // Every picture counts, also one that lacks its references, and nobody looks at it.
 void decode_roughly(AVCodecContext& codec) {
@@ -25,11 +18,7 @@ void decode_roughly(AVCodecContext& codec) {
 }  // namespace
 
 PacketDecoder::PacketDecoder(const MediaFile& file, const AVStream& stream, PacketVisitor visit)
-    : file_(file),
-      stream_index_(stream.index),
-      visit_(std::move(visit)),
-      packet_(required(av_packet_alloc())),
-      frame_(required(av_frame_alloc())) {
+    : packets_(file, stream), visit_(std::move(visit)), frame_(required(av_frame_alloc())) {
   const AVCodecParameters& parameters = *stream.codecpar;
   const AVCodec* const decoder = avcodec_find_decoder(parameters.codec_id);
   codec_ = required(avcodec_alloc_context3(decoder));
@@ -37,7 +26,7 @@ PacketDecoder::PacketDecoder(const MediaFile& file, const AVStream& stream, Pack
   decode_roughly(*codec_);
   if (decoder == nullptr || avcodec_parameters_to_context(codec_.get(), &parameters) < 0 ||
       avcodec_open2(codec_.get(), decoder, nullptr) < 0)
-    throw InputError(file.name() + ": stream " + std::to_string(stream_index_) +
+    throw InputError(file.name() + ": stream " + std::to_string(stream.index) +
                      " cannot be decoded (its codec is " + avcodec_get_name(parameters.codec_id) +
                      ')');
 }
@@ -51,19 +40,11 @@ const AVFrame* PacketDecoder::next() {
   }
 }
 
-// One packet of the stream, or the end. A packet that the file cuts short is left out.
+// One packet of the stream, or the end.
 void PacketDecoder::feed() {
-  while (av_read_frame(&file_.format(), packet_.get()) >= 0) {
-    const bool wanted =
-        packet_->stream_index == stream_index_ && (packet_->flags & AV_PKT_FLAG_CORRUPT) == 0;
-    if (wanted) {
-      if (visit_) visit_(*packet_);
-      avcodec_send_packet(codec_.get(), packet_.get());
-    }
-    av_packet_unref(packet_.get());
-    if (wanted) return;
-  }
-  avcodec_send_packet(codec_.get(), nullptr);
+  const AVPacket* const packet = packets_.next();
+  if (packet != nullptr && visit_) visit_(*packet);
+  avcodec_send_packet(codec_.get(), packet);
 }
 
 }  // namespace Korvane::Tool

@@ -1,11 +1,11 @@
-// Reads one stream of a media file, packet by packet and frame by frame.
+// Reads one stream of a media file, frame by frame.
 
 #ifndef KV_TOOLS_KVTOOL_MEDIA_PACKET_DECODER_H
 #define KV_TOOLS_KVTOOL_MEDIA_PACKET_DECODER_H
 
 #include <functional>
 
-#include "media/media_file.h"
+#include "media/packet_reader.h"
 
 namespace Korvane::Tool {
 
@@ -23,11 +23,9 @@ class PacketDecoder {
  private:
   void feed();
 
-  const MediaFile& file_;
-  int stream_index_;
+  PacketReader packets_;
   PacketVisitor visit_;
   LibavPtr<AVCodecContext> codec_;
-  LibavPtr<AVPacket> packet_;
   LibavPtr<AVFrame> frame_;
 };
 
