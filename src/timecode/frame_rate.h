@@ -10,10 +10,6 @@ constexpr bool is_double_rate(unsigned short rate) {
   return rate == 48 || rate == 50 || rate == 60;
 }
 
-constexpr bool is_supported_rate(unsigned short rate) {
-  return rate == 24 || rate == 25 || rate == 30 || rate == 50 || rate == 60;
-}
-
 constexpr bool can_drop_frames(unsigned short rate) { return rate == 30 || rate == 60; }
 
 // What a label's `frames` field counts: single frames, or pairs at double rates.

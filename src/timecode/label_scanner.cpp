@@ -20,15 +20,18 @@ bool scan_any_character(const char*& text, char& value) {
   return true;
 }
 
+// As scan_number(), quicker for two digits, which nearly every number of a label has.
+inline bool scan_short_number(const char*& text, long long& value) {
+  if (!is_digit(text[0]) || !is_digit(text[1]) || is_digit(text[2]))
+    return scan_number(text, value);
+  value = (text[0] - '0') * 10 + (text[1] - '0');
+  text += 2;
+  return true;
+}
+
 }  // namespace
 
 bool scan_number(const char*& text, long long& value) {
-  // Nearly every number of a label has two digits.
-  if (is_digit(text[0]) && is_digit(text[1]) && !is_digit(text[2])) {
-    value = (text[0] - '0') * 10 + (text[1] - '0');
-    text += 2;
-    return true;
-  }
   using Limits = std::numeric_limits<long long>;
   const char* next = text;
   while (is_space(*next)) ++next;
@@ -51,17 +54,17 @@ bool scan_number(const char*& text, long long& value) {
 
 ScannedLabel scan_label(const char* text) {
   ScannedLabel label;
-  if (!scan_number(text, label.hours)) return label;
+  if (!scan_short_number(text, label.hours)) return label;
   label.items = 1;
-  if (!scan_character(text, ':') || !scan_number(text, label.minutes)) return label;
+  if (!scan_character(text, ':') || !scan_short_number(text, label.minutes)) return label;
   label.items = 2;
-  if (!scan_character(text, ':') || !scan_number(text, label.seconds)) return label;
+  if (!scan_character(text, ':') || !scan_short_number(text, label.seconds)) return label;
   label.items = 3;
   if (!scan_any_character(text, label.separator)) return label;
   label.items = 4;
-  if (!scan_number(text, label.frames)) return label;
+  if (!scan_short_number(text, label.frames)) return label;
   label.items = 5;
-  if (!scan_character(text, '.') || !scan_number(text, label.field)) return label;
+  if (!scan_character(text, '.') || !scan_short_number(text, label.field)) return label;
   label.items = 6;
   return label;
 }

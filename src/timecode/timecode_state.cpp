@@ -19,6 +19,7 @@ struct Counting {
   static constexpr Stepping kStepping = is_double_rate(rate) ? Stepping::Pairs : Stepping::Single;
 };
 
+// Calls `work` with the way in which `state` counts. Raises that the rate is not supported.
 template <typename Work>
 void with_counting_of(const TimecodeState& state, Work work) {
   switch (state.frame_rate) {

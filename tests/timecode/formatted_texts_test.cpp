@@ -28,6 +28,7 @@ TEST(FormattedTexts, LongAndShortInAnyOrder) {
                  "\xC3\xA4"
                  "07\xC3\xA4",
                  texts.write(state, "\xC3\xA4%HH\xC3\xA4"));
+    expect_texts(L"\uFFFD", "\x80", texts.write(state, "\x80"));
     expect_texts(L"x", "x", texts.write(state, "x"));
   }
 }
