@@ -50,7 +50,8 @@ TEST(ExpandPattern, TooLongATextIsLeftToTheConversion) {
 TEST(ExpandPattern, LeavesWhatIsNoToken) {
   TimecodeState state(30, false);
   state.hours = 1;
-  for (const char* const pattern : {"xHH", "HHH", "%", "%H", "%HM", "%hh", "%XX", "%%H", "\x80", ""})
+  for (const char* const pattern :
+       {"xHH", "HHH", "%", "%H", "%HM", "%hh", "%XX", "%%H", "\x80", ""})
     EXPECT_EQ(pattern, expand(state, pattern));
   EXPECT_EQ("%01H", expand(state, "%%HHH"));
   EXPECT_EQ("0101%H", expand(state, "%HH%HH%H"));
