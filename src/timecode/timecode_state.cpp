@@ -83,7 +83,8 @@ void derive_label(TimecodeState& state) {
   state.field_mark = is_double_rate(kRate) && number_of_second % 2 != 0;
 }
 
-// Finds the day of the frame count, without `wrap` the first even for an hour 24.
+// Finds the day of the frame count. Without `wrap` it is the first, even for an hour 24, in which
+// steps are derived.
 template <typename Counting>
 void enter_day(TimecodeState& state, bool wrap) {
   constexpr long long kPerDay = frames_per_day(Counting::kRate, Counting::kDrop);
@@ -93,7 +94,7 @@ void enter_day(TimecodeState& state, bool wrap) {
   if (wrap && !in_first_day) whole_days = count / kPerDay - (count % kPerDay < 0 ? 1 : 0);
   state.to_first_day = wrapping_multiply(whole_days, -kPerDay);
   state.days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
-  const bool in_place = (wrap || in_first_day) && count >= -kFar && count < kFar;
+  const bool in_place = wrap && count >= -kFar && count < kFar;
   state.last_frame = last_label_frame(Counting::kRate);
   state.stepping = in_place ? Counting::kStepping : Stepping::Derived;
 }
