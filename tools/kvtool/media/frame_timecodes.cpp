@@ -1,6 +1,8 @@
 #include "media/frame_timecodes.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <span>
 
 #include "core/exception.h"
@@ -14,35 +16,27 @@ bool is_mpeg(AVCodecID codec) {
   return codec == AV_CODEC_ID_MPEG1VIDEO || codec == AV_CODEC_ID_MPEG2VIDEO;
 }
 
-// A packet is a frame there, and no timecode stands in what only a decoder understands.
-bool tells_by_packets(AVCodecID codec) {
-  const AVCodecDescriptor* const descriptor = avcodec_descriptor_get(codec);
-  const bool intra_only =
-      descriptor != nullptr && (descriptor->props & AV_CODEC_PROP_INTRA_ONLY) != 0;
-  return is_mpeg(codec) || intra_only;
+// A packet of these is a frame, and no timecode stands in what only a decoder understands. All
+// others are decoded: H.264 and HEVC carry timecodes in what they code, others may.
+constexpr AVCodecID kToldByPackets[] = {
+    AV_CODEC_ID_DNXHD,      AV_CODEC_ID_DVVIDEO, AV_CODEC_ID_JPEG2000, AV_CODEC_ID_MPEG1VIDEO,
+    AV_CODEC_ID_MPEG2VIDEO, AV_CODEC_ID_PRORES,  AV_CODEC_ID_RAWVIDEO, AV_CODEC_ID_V210};
+
+bool is_told_by_packets(AVCodecID codec) {
+  return std::find(std::begin(kToldByPackets), std::end(kToldByPackets), codec) !=
+         std::end(kToldByPackets);
 }
 
 // The data are the number of words and the words; their bytes stand the other way round than in
 // the library's.
-std::optional<unsigned int> first_word(const std::uint8_t* data, std::size_t size) {
+std::optional<unsigned int> find_word(const AVFrame& frame) {
+  const AVFrameSideData* const data = av_frame_get_side_data(&frame, AV_FRAME_DATA_S12M_TIMECODE);
   std::uint32_t words[2] = {};
-  if (data == nullptr || size < sizeof words) return std::nullopt;
-  std::memcpy(words, data, sizeof words);
+  if (data == nullptr || data->size < sizeof words) return std::nullopt;
+  std::memcpy(words, data->data, sizeof words);
   if (words[0] == 0) return std::nullopt;
   const std::uint32_t word = words[1];
   return word >> 24U | (word >> 8U & 0xFF00U) | (word << 8U & 0xFF0000U) | word << 24U;
-}
-
-std::optional<unsigned int> find_word(const AVFrame& frame) {
-  const AVFrameSideData* const data = av_frame_get_side_data(&frame, AV_FRAME_DATA_S12M_TIMECODE);
-  return data != nullptr ? first_word(data->data, data->size) : std::nullopt;
-}
-
-std::optional<unsigned int> find_word(const AVPacket& packet) {
-  std::size_t size = 0;
-  const std::uint8_t* const data =
-      av_packet_get_side_data(&packet, AV_PKT_DATA_S12M_TIMECODE, &size);
-  return first_word(data, size);
 }
 
 std::optional<Timecode> timecode_of(const std::optional<unsigned int>& word, unsigned short rate) {
@@ -65,7 +59,7 @@ FrameTimecodes::FrameTimecodes(const MediaFile& file, AVStream& stream, const Ra
       rate_(rate),
       carrier_(is_mpeg(stream.codecpar->codec_id) ? TimecodeCarrier::GroupOfPictures
                                                   : TimecodeCarrier::Frame) {
-  if (tells_by_packets(stream.codecpar->codec_id))
+  if (is_told_by_packets(stream.codecpar->codec_id))
     packets_.emplace(file, stream);
   else
     decoder_.emplace(file, stream, [this](const AVPacket& packet) { visit_packet(packet); });
@@ -79,7 +73,6 @@ std::optional<FrameTimecode> FrameTimecodes::next() {
   return first;
 }
 
-// By one frame or packet. Answers whether there was one.
 bool FrameTimecodes::advance() {
   if (decoder_) {
     const AVFrame* const frame = decoder_->next();
@@ -94,14 +87,12 @@ bool FrameTimecodes::advance() {
 // The header's timecode is that of the group's first picture in display order. All earlier groups
 // are displayed before it, so its place there is the place of the header in coded order. (The
 // decoder puts it on whatever frame it gives out next.)
-std::optional<Timecode> FrameTimecodes::timecode_in(const AVPacket& packet) const {
-  if (carrier_ == TimecodeCarrier::Frame) return timecode_of(find_word(packet), rate_.nominal);
-  const auto size = static_cast<std::size_t>(packet.size);
-  return timecode_of(find_gop_timecode({packet.data, size}), rate_.nominal);
-}
-
 void FrameTimecodes::visit_packet(const AVPacket& packet) {
-  if (packets_) add(pictures_, [&] { return timecode_in(packet); });
+  if (carrier_ == TimecodeCarrier::GroupOfPictures)
+    add(pictures_, [&] {
+      const auto size = static_cast<std::size_t>(packet.size);
+      return timecode_of(find_gop_timecode({packet.data, size}), rate_.nominal);
+    });
   ++pictures_;
   if ((packet.flags & AV_PKT_FLAG_DISCARD) != 0) ++discarded_;
 }

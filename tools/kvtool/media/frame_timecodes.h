@@ -38,10 +38,10 @@ class FrameTimecodes {
   unsigned long long frames_discarded() const { return discarded_; }
 
  private:
+  // By one frame or packet. Answers whether there was one.
   bool advance();
   void visit_packet(const AVPacket& packet);
   void visit_frame(const AVFrame& frame);
-  std::optional<Timecode> timecode_in(const AVPacket& packet) const;
 
   // What `read` finds for `frame`.
   template <typename Read>
@@ -54,8 +54,8 @@ class FrameTimecodes {
   unsigned long long frames_ = 0;    // in display order, where they are decoded
   unsigned long long discarded_ = 0;
   std::deque<FrameTimecode> found_;
-  std::optional<PacketReader> packets_;  // either these
-  std::optional<PacketDecoder> decoder_;
+  std::optional<PacketReader> packets_;   // where packets tell everything,
+  std::optional<PacketDecoder> decoder_;  // and elsewhere this
 };
 
 }  // namespace Korvane::Tool
