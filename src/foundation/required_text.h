@@ -10,7 +10,7 @@ namespace Korvane {
 // `text`, which is not null.
 template <typename Character>
 const Character* required_text(const Character* text) {
-  exception_enforce(text != nullptr, InvalidArgument, "Text must not be null", true);
+  if (text == nullptr) exception_throw(InvalidArgument, "Text must not be null", true);
   return text;
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 
 #include "timecode/label_text.h"
 #include "timecode/text_conversion.h"
@@ -10,12 +11,12 @@ namespace Korvane {
 namespace {
 
 // Out of the way of most calls, whose pattern is short and ASCII.
-[[gnu::cold]] void make_room(FormattedText& text, std::size_t size) {
+[[gnu::cold, gnu::noinline]] void make_room(FormattedText& text, std::size_t size) {
   text.narrow.resize(std::max(text.narrow.size(), size));
   text.wide.resize(std::max(text.wide.size(), size));
 }
 
-[[gnu::cold]] void convert_to_wide(FormattedText& text, std::size_t size) {
+[[gnu::cold, gnu::noinline]] void convert_to_wide(FormattedText& text, std::size_t size) {
   text.wide = utf8_to_wide({text.narrow.data(), size});
 }
 
@@ -23,10 +24,10 @@ namespace {
 
 FormattedTexts::~FormattedTexts() = default;  // GCOVR_EXCL_BR_LINE: the compiler's own loop
 
-const FormattedText& FormattedTexts::write(const TimecodeState& state, std::string_view pattern) {
+const FormattedText& FormattedTexts::write(const TimecodeState& state, const char* pattern) {
   FormattedText& text = *next_;
-  if (std::min(text.narrow.size(), text.wide.size()) < pattern.size())
-    make_room(text, pattern.size());
+  const std::size_t size = std::strlen(pattern);
+  if (std::min(text.narrow.size(), text.wide.size()) < size) make_room(text, size);
   const ExpandedPattern expanded =
       expand_pattern(state, pattern, text.narrow.data(), text.wide.data());
   if (!expanded.wide_is_right()) convert_to_wide(text, expanded.size);

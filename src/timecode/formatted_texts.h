@@ -4,7 +4,6 @@
 #define KV_ENGINE_SRC_TIMECODE_FORMATTED_TEXTS_H
 
 #include <string>
-#include <string_view>
 
 #include "timecode/timecode_state.h"
 
@@ -26,7 +25,7 @@ class FormattedTexts {
   ~FormattedTexts();
 
   // Valid until the next call. Raises what utf8_to_wide() raises.
-  const FormattedText& write(const TimecodeState& state, std::string_view pattern);
+  const FormattedText& write(const TimecodeState& state, const char* pattern);
 
  private:
   FormattedText texts_[2];

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstring>
 
 #include "timecode/frame_rate.h"
 
@@ -21,97 +20,100 @@ consteval TwoDigits two_digits() {
 
 constexpr TwoDigits kTwoDigits = two_digits();
 
-// Two digits. Returns the end of what it wrote.
-char* write_number(unsigned char value, char* out) {
-  std::memcpy(out, kTwoDigits[value].data(), 2);
-  return out + 2;
-}
+// Writes one text twice, narrow and wide.
+class TwinWriter {
+ public:
+  TwinWriter(char* narrow, wchar_t* wide) : narrow_(narrow), wide_(wide) {}
 
-char* write_frames(const TimecodeState& state, Timecode::FieldMarkIndication field_mark,
-                   char* out) {
-  const bool pairs = is_double_rate(state.frame_rate);
+  void unit(char value) {
+    *narrow_++ = value;
+    *wide_++ = static_cast<wchar_t>(static_cast<unsigned char>(value));
+  }
+
+  void number(unsigned char value) {
+    for (const char digit : kTwoDigits[value]) unit(digit);
+  }
+
+  const char* end() const { return narrow_; }
+
+ private:
+  char* narrow_;
+  wchar_t* wide_;
+};
+
+void write_frames(const TimecodeState& state, Timecode::FieldMarkIndication field_mark,
+                  TwinWriter& out) {
   switch (field_mark) {
     case Timecode::FieldMarkDotSuffix:
-      out = write_number(state.frames, out);
-      if (pairs) {
-        *out++ = '.';
-        *out++ = state.field_mark ? '1' : '0';
-      }
-      return out;
+      out.number(state.frames);
+      if (!is_double_rate(state.frame_rate)) return;
+      out.unit('.');
+      return out.unit(state.field_mark ? '1' : '0');
     case Timecode::FieldMarkFullRateFrames:
-      return write_number(state.full_rate_frames(), out);
+      return out.number(state.full_rate_frames());
     case Timecode::FieldMarkOmitted:
-      return write_number(state.frames, out);
+      return out.number(state.frames);
     case Timecode::FieldMarkFramesDashed:
-      *out++ = '-';
-      *out++ = '-';
-      return out;
+      out.unit('-');
+      return out.unit('-');
   }
-  return out;  // any other indication writes no frames
+  // any other indication writes no frames
 }
 
-constexpr std::ptrdiff_t kTokenLength = 3;  // "%HH"
+constexpr int kTokenLength = 3;  // "%HH"
 
-// What the token with this letter stands for; null when there is no such token.
-const unsigned char* field_of_token(const TimecodeState& state, char letter) {
-  switch (letter) {
-    case 'H':
-      return &state.hours;
-    case 'M':
-      return &state.minutes;
-    case 'S':
-      return &state.seconds;
-    case 'F':
-      return &state.frames;
-    default:
-      return nullptr;
-  }
+using Field = unsigned char TimecodeState::*;
+using FieldsOfLetters = std::array<Field, 256>;
+
+consteval FieldsOfLetters fields_of_letters() {
+  FieldsOfLetters fields{};  // null: no such token
+  fields['H'] = &TimecodeState::hours;
+  fields['M'] = &TimecodeState::minutes;
+  fields['S'] = &TimecodeState::seconds;
+  fields['F'] = &TimecodeState::frames;
+  return fields;
 }
+
+constexpr FieldsOfLetters kFieldsOfLetters = fields_of_letters();
 
 // What the token at `text` stands for; null when there is none.
-const unsigned char* field_at(const TimecodeState& state, const char* text, const char* end) {
-  if (*text != '%' || end - text < kTokenLength || text[1] != text[2]) return nullptr;
-  return field_of_token(state, text[1]);
+Field field_at(const char* text) {
+  if (*text != '%') return nullptr;
+  const Field field = kFieldsOfLetters[static_cast<unsigned char>(text[1])];
+  return field != nullptr && text[1] == text[2] ? field : nullptr;
 }
 
 }  // namespace
 
 void write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_frame,
-                 Timecode::FieldMarkIndication field_mark, char (&text)[kLabelTextCapacity]) {
-  char* out = write_number(state.hours, text);
-  *out++ = ':';
-  out = write_number(state.minutes, out);
-  *out++ = ':';
-  out = write_number(state.seconds, out);
-  *out++ = state.drop_frame && drop_frame == Timecode::DropFrameSemicolon ? ';' : ':';
-  out = write_frames(state, field_mark, out);
-  *out = '\0';
+                 Timecode::FieldMarkIndication field_mark, LabelText& text) {
+  TwinWriter out(text.narrow, text.wide);
+  out.number(state.hours);
+  out.unit(':');
+  out.number(state.minutes);
+  out.unit(':');
+  out.number(state.seconds);
+  out.unit(state.drop_frame && drop_frame == Timecode::DropFrameSemicolon ? ';' : ':');
+  write_frames(state, field_mark, out);
+  out.unit('\0');
 }
 
-ExpandedPattern expand_pattern(const TimecodeState& state, std::string_view pattern, char* narrow,
+ExpandedPattern expand_pattern(const TimecodeState& state, const char* pattern, char* narrow,
                                wchar_t* wide) {
-  std::size_t size = 0;
+  TwinWriter out(narrow, wide);
   unsigned char all_bits = 0;
-  const char* const end = pattern.data() + pattern.size();
-  for (const char* next = pattern.data(); next != end;) {
-    if (const unsigned char* const field = field_at(state, next, end)) {
-      for (const char digit : kTwoDigits[*field]) {
-        narrow[size] = digit;
-        wide[size] = static_cast<wchar_t>(digit);
-        ++size;
-      }
-      next += kTokenLength;
+  while (*pattern != '\0') {
+    if (const Field field = field_at(pattern)) {
+      out.number(state.*field);
+      pattern += kTokenLength;
     } else {
-      const auto unit = static_cast<unsigned char>(*next++);
-      all_bits |= unit;
-      narrow[size] = static_cast<char>(unit);
-      wide[size] = static_cast<wchar_t>(unit);
-      ++size;
+      all_bits |= static_cast<unsigned char>(*pattern);
+      out.unit(*pattern++);
     }
   }
-  narrow[size] = '\0';
-  wide[size] = L'\0';
-  return {size, all_bits < 0x80};
+  const std::ptrdiff_t size = out.end() - narrow;
+  out.unit('\0');
+  return {static_cast<std::size_t>(size), all_bits < 0x80};
 }
 
 }  // namespace Korvane

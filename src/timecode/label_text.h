@@ -4,7 +4,6 @@
 #define KV_ENGINE_SRC_TIMECODE_LABEL_TEXT_H
 
 #include <cstddef>
-#include <string_view>
 
 #include "timecode/text_conversion.h"
 #include "timecode/timecode.h"
@@ -12,12 +11,14 @@
 
 namespace Korvane {
 
-// Holds every label: "24:00:00;00.0" is of the longest.
-constexpr int kLabelTextCapacity = 16;
+// Room for every label and its terminator: "24:00:00;00.0" is of the longest.
+struct LabelText {
+  wchar_t wide[16];
+  char narrow[16];
+};
 
-// Writes the zero-terminated label into `text`.
 void write_label(const TimecodeState& state, Timecode::DropFrameIndication drop_frame,
-                 Timecode::FieldMarkIndication field_mark, char (&text)[kLabelTextCapacity]);
+                 Timecode::FieldMarkIndication field_mark, LabelText& text);
 
 struct ExpandedPattern {
   std::size_t size;
@@ -27,10 +28,11 @@ struct ExpandedPattern {
   bool wide_is_right() const { return ascii && size <= kLongestConverted; }
 };
 
-// Writes `pattern` with every %HH, %MM, %SS and %FF replaced into `narrow` and, unit by unit, into
-// `wide`; each has room for the pattern and a terminator. What a replacement writes is digits,
-// which belong to no token, so one pass gives what four successive replacements give.
-ExpandedPattern expand_pattern(const TimecodeState& state, std::string_view pattern, char* narrow,
+// Writes the zero-terminated `pattern` with every %HH, %MM, %SS and %FF replaced into `narrow` and,
+// unit by unit, into `wide`; each has room for the pattern and its terminator. What a replacement
+// writes is digits, which belong to no token, so one pass gives what four successive replacements
+// give.
+ExpandedPattern expand_pattern(const TimecodeState& state, const char* pattern, char* narrow,
                                wchar_t* wide);
 
 }  // namespace Korvane

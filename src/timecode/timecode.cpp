@@ -1,9 +1,6 @@
 #include "timecode/timecode.h"
 
-#include <algorithm>
 #include <bit>
-#include <iterator>
-#include <string_view>
 
 #include "foundation/required_text.h"
 #include "foundation/wrapping.h"
@@ -40,18 +37,15 @@ unsigned long long pack_label(const TimecodeState& state, const St12Layout& layo
   return with_bit(word, layout.drop_frame_bit, state.drop_frame);
 }
 
-const FormattedText& formatted(TimecodePrivate& record, std::string_view pattern) {
+const FormattedText& formatted(TimecodePrivate& record, const char* pattern) {
   if (record.formatted == nullptr) record.formatted = std::make_unique<FormattedTexts>();
   return record.formatted->write(record, pattern);
 }
 
-const TimecodePrivate& printed(TimecodePrivate& record, Timecode::DropFrameIndication drop_frame,
-                               Timecode::FieldMarkIndication field_mark) {
-  write_label(record, drop_frame, field_mark, record.text_narrow);
-  // ASCII is the same in UTF-16. The whole array is quicker than the text alone.
-  std::transform(std::begin(record.text_narrow), std::end(record.text_narrow), record.text_wide,
-                 [](char c) { return static_cast<wchar_t>(static_cast<unsigned char>(c)); });
-  return record;
+const LabelText& printed(TimecodePrivate& record, Timecode::DropFrameIndication drop_frame,
+                         Timecode::FieldMarkIndication field_mark) {
+  write_label(record, drop_frame, field_mark, record.text);
+  return record.text;
 }
 
 }  // namespace
@@ -144,12 +138,12 @@ unsigned long long Timecode::to_ms(const Rational32& edit_rate) const {
 }
 
 const char* Timecode::c_str(DropFrameIndication drop_frame, FieldMarkIndication field_mark) const {
-  return printed(*private_, drop_frame, field_mark).text_narrow;
+  return printed(*private_, drop_frame, field_mark).narrow;
 }
 
 const wchar_t* Timecode::text(DropFrameIndication drop_frame,
                               FieldMarkIndication field_mark) const {
-  return printed(*private_, drop_frame, field_mark).text_wide;
+  return printed(*private_, drop_frame, field_mark).wide;
 }
 
 const char* Timecode::formatter(const char* pattern) const {
@@ -157,7 +151,7 @@ const char* Timecode::formatter(const char* pattern) const {
 }
 
 const wchar_t* Timecode::formatter(const wchar_t* pattern) const {
-  return formatted(*private_, wide_to_utf8(required_text(pattern))).wide.c_str();
+  return formatted(*private_, wide_to_utf8(required_text(pattern)).c_str()).wide.c_str();
 }
 
 unsigned int Timecode::to_12m() const {

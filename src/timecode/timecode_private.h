@@ -12,8 +12,7 @@
 namespace Korvane {
 
 struct TimecodePrivate : TimecodeState {
-  wchar_t text_wide[kLabelTextCapacity];  // written as a whole with every text
-  char text_narrow[kLabelTextCapacity] = {};
+  LabelText text;                             // nothing until the first call
   std::unique_ptr<FormattedTexts> formatted;  // null until the first call
 
   using TimecodeState::TimecodeState;

@@ -117,9 +117,10 @@ void log_timecode_difference(const char* label, const Timecode& previous, const 
   expected.normalize(true);
   if (expected.absolute_frame_count() == current.absolute_frame_count()) return;
 
-  char expected_text[kLabelTextCapacity];
+  LabelText expected_text;
   write_label(expected, Timecode::DropFrameSemicolon, Timecode::FieldMarkDotSuffix, expected_text);
-  LogLine(LogLine::to_logger) << label << ": Found timecode difference, expected: " << expected_text
+  LogLine(LogLine::to_logger) << label
+                              << ": Found timecode difference, expected: " << expected_text.narrow
                               << " actual: "
                               << current.c_str(Timecode::DropFrameSemicolon,
                                                Timecode::FieldMarkDotSuffix);

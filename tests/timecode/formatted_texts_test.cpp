@@ -22,7 +22,8 @@ TEST(FormattedTexts, LongAndShortInAnyOrder) {
   const std::wstring long_wide(100, L'x');
   for (int round = 0; round < 3; ++round) {  // in either room, new and in use
     expect_texts(L"", "", texts.write(state, ""));
-    expect_texts(L"07" + long_wide, "07" + long_text, texts.write(state, "%HH" + long_text));
+    expect_texts(L"07" + long_wide, "07" + long_text,
+                 texts.write(state, ("%HH" + long_text).c_str()));
     expect_texts(L"7-07", "7-07", texts.write(state, "7-%HH"));
     expect_texts(L"\u00E407\u00E4",
                  "\xC3\xA4"
@@ -39,7 +40,7 @@ TEST(FormattedTexts, TheTextBeforeMayBeThePatternOrPartOfIt) {
   FormattedTexts texts;
   const FormattedText& first = texts.write(state, "a%HHb%%HH");
   expect_texts(L"a07b%07", "a07b%07", first);
-  expect_texts(L"7b%07", "7b%07", texts.write(state, std::string_view(first.narrow.c_str() + 2)));
+  expect_texts(L"7b%07", "7b%07", texts.write(state, first.narrow.c_str() + 2));
 }
 
 TEST(FormattedTexts, TheTextBeforeStaysDuringACall) {

@@ -29,7 +29,8 @@ std::string expand_by_regex(const TimecodeState& state, std::string text) {
 std::string expand(const TimecodeState& state, const std::string& pattern) {
   std::string narrow(pattern.size() + 1, 'x');
   std::wstring wide(pattern.size() + 1, L'x');
-  const ExpandedPattern expanded = expand_pattern(state, pattern, narrow.data(), wide.data());
+  const ExpandedPattern expanded =
+      expand_pattern(state, pattern.c_str(), narrow.data(), wide.data());
   EXPECT_EQ('\0', narrow.at(expanded.size));
   EXPECT_EQ(L'\0', wide.at(expanded.size));
   const auto is_ascii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
@@ -78,11 +79,11 @@ TEST(WriteLabel, FortyEightIsADoubleRate) {
   TimecodeState state(48, false);
   state.frames = 23;
   state.field_mark = true;
-  char text[kLabelTextCapacity];
+  LabelText text;
   write_label(state, Timecode::DropFrameSemicolon, Timecode::FieldMarkDotSuffix, text);
-  EXPECT_STREQ("00:00:00:23.1", text);
+  EXPECT_STREQ("00:00:00:23.1", text.narrow);
   write_label(state, Timecode::DropFrameSemicolon, Timecode::FieldMarkFullRateFrames, text);
-  EXPECT_STREQ("00:00:00:47", text);
+  EXPECT_STREQ("00:00:00:47", text.narrow);
 }
 
 }  // namespace
