@@ -3,6 +3,9 @@
 #ifndef KV_ENGINE_SRC_TIMECODE_ST12_WORD_H
 #define KV_ENGINE_SRC_TIMECODE_ST12_WORD_H
 
+#include "timecode/frame_rate.h"
+#include "timecode/timecode_state.h"
+
 namespace Korvane {
 
 // A two-digit field: four bits of units, and as many bits of tens as the mask holds.
@@ -41,6 +44,14 @@ constexpr bool bit(unsigned long long word, int number) { return (word >> number
 
 constexpr unsigned long long with_bit(unsigned long long word, int number, bool value) {
   return (word & ~(1ULL << number)) | static_cast<unsigned long long>(value) << number;
+}
+
+// What a word says, right or wrong.
+constexpr Label label_of_word(const St12Layout& layout, unsigned short rate,
+                              unsigned long long word) {
+  return {layout.hours.unpack(word), layout.minutes.unpack(word), layout.seconds.unpack(word),
+          layout.frames.unpack(word),
+          is_double_rate(rate) && bit(word, layout.field_mark_bit_at(rate))};
 }
 
 }  // namespace Korvane

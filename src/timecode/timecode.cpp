@@ -4,6 +4,7 @@
 
 #include "foundation/required_text.h"
 #include "foundation/wrapping.h"
+#include "timecode/counting.h"
 #include "timecode/frame_rate.h"
 #include "timecode/label_text.h"
 #include "timecode/st12_word.h"
@@ -48,45 +49,45 @@ const LabelText& printed(TimecodePrivate& record, Timecode::DropFrameIndication 
   return record.text;
 }
 
+// Raises the first error of rate and label.
+[[gnu::always_inline]] inline TimecodePrivate* record_of_label(unsigned short rate, bool drop_frame,
+                                                               const Label& label, bool wrap,
+                                                               bool check_drop_frame_label) {
+  return with_counting(rate, drop_frame, [&]<typename Counting>(Counting) {
+    const TimecodeState state = state_of_label<Counting>(label, wrap, check_drop_frame_label);
+    return new TimecodePrivate(state);
+  });
+}
+
+[[gnu::always_inline]] inline TimecodePrivate* record_of_count(unsigned short rate, bool drop_frame,
+                                                               long long count) {
+  return with_counting(rate, drop_frame, [&]<typename Counting>(Counting) {
+    TimecodeState state(Counting::kRate, Counting::kDrop, count);
+    normalize_by<Counting>(state, true);
+    return new TimecodePrivate(state);
+  });
+}
+
 }  // namespace
 
 Timecode::Timecode(unsigned short rate, unsigned char hours, unsigned char minutes,
                    unsigned char seconds, unsigned char frames, bool drop_frame, bool field_mark)
-    : private_(new TimecodePrivate(rate, drop_frame)) {
-  private_->hours = hours;
-  private_->minutes = minutes;
-  private_->seconds = seconds;
-  private_->frames = frames;
-  private_->field_mark = field_mark;
-  private_->recompute_from_fields(true, true);
-}
+    : private_(record_of_label(rate, drop_frame, {hours, minutes, seconds, frames, field_mark},
+                               true, true)) {}
 
 Timecode::Timecode(unsigned short rate, unsigned char hours, unsigned char minutes,
                    unsigned char seconds, bool drop_frame)
-    : private_(new TimecodePrivate(rate, drop_frame)) {
-  private_->hours = hours;
-  private_->minutes = minutes;
-  private_->seconds = seconds;
-  private_->recompute_from_fields(true, false);
-}
+    : private_(record_of_label(rate, drop_frame, {hours, minutes, seconds}, true, false)) {}
 
 Timecode::Timecode(unsigned short rate, unsigned int st12)
-    : private_(new TimecodePrivate(rate, bit(st12, kSt12Word32.drop_frame_bit))) {
-  private_->hours = kSt12Word32.hours.unpack(st12);
-  private_->minutes = kSt12Word32.minutes.unpack(st12);
-  private_->seconds = kSt12Word32.seconds.unpack(st12);
-  private_->frames = kSt12Word32.frames.unpack(st12);
-  private_->field_mark = is_double_rate(rate) && bit(st12, kSt12Word32.field_mark_bit_at(rate));
-  private_->recompute_from_fields(false, true);
-}
+    : private_(record_of_label(rate, bit(st12, kSt12Word32.drop_frame_bit),
+                               label_of_word(kSt12Word32, rate, st12), false, true)) {}
 
 Timecode::Timecode(unsigned short rate, TimeData clock, bool drop_frame, Rational32 edit_rate)
     : Timecode(rate, frames_at(clock, edit_rate), drop_frame) {}
 
 Timecode::Timecode(unsigned short rate, long long frame_count, bool drop_frame)
-    : private_(new TimecodePrivate(rate, frame_count, drop_frame)) {
-  private_->normalize(true);
-}
+    : private_(record_of_count(rate, drop_frame, frame_count)) {}
 
 Timecode::Timecode(unsigned short rate, bool drop_frame) : Timecode(rate, 0LL, drop_frame) {}
 

@@ -12,10 +12,10 @@
 namespace Korvane {
 
 struct TimecodePrivate : TimecodeState {
-  LabelText text;                             // nothing until the first call
   std::unique_ptr<FormattedTexts> formatted;  // null until the first call
+  LabelText text;                             // nothing until the first call
 
-  using TimecodeState::TimecodeState;
+  explicit TimecodePrivate(const TimecodeState& state) : TimecodeState(state) {}
 
   // A copy does not carry the texts, nor the days, which its first step derives.
   TimecodePrivate(const TimecodePrivate& other) : TimecodeState(other) {

@@ -16,30 +16,22 @@ enum class Stepping : unsigned char {
   Pairs     // likewise, with every second step; the field mark with each
 };
 
-struct TimecodeState {
-  unsigned short frame_rate;
-  long long frame_count = 0;
-  long long to_first_day = 0;  // what brings the frame count into one day
-  bool drop_frame;
+struct Label {
   unsigned char hours = 0, minutes = 0, seconds = 0, frames = 0;
   bool field_mark = false;
-  short days = 0;  // 0 in a copy until it is stepped
+};
+
+struct TimecodeState : Label {
+  bool drop_frame;  // only at rates that can drop frames
+  unsigned short frame_rate;
+  long long frame_count;
+  long long to_first_day = 0;  // what brings the frame count into one day
+  short days = 0;              // 0 in a copy until it is stepped
   Stepping stepping = Stepping::Derived;
   unsigned char last_frame = 0;  // of a second of labels, once the label is known to be right
 
-  // All zero. `drop` is kept only at rates that can drop frames.
-  TimecodeState(unsigned short rate, bool drop)
-      : frame_rate(rate), drop_frame(drop && can_drop_frames(rate)) {}
-  TimecodeState(unsigned short rate, long long count, bool drop) : TimecodeState(rate, drop) {
-    frame_count = count;
-  }
-
-  // The frame count of the label, which may be one that drop-frame counting leaves out.
-  long long count_of_label() const;
-
-  // Raises the first error of rate and label, takes the frame count from the label and normalizes.
-  // `check_drop_frame_label` also refuses the labels that drop-frame counting leaves out.
-  void recompute_from_fields(bool wrap, bool check_drop_frame_label);
+  TimecodeState(unsigned short rate, bool drop, long long count, const Label& label = Label())
+      : Label(label), drop_frame(drop), frame_rate(rate), frame_count(count) {}
 
   // Derives everything from the frame count; with `wrap` the label is brought into one day. Raises
   // that the rate is not supported.

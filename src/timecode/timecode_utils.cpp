@@ -11,6 +11,7 @@
 #include "foundation/log_line.h"
 #include "foundation/required_text.h"
 #include "foundation/wrapping.h"
+#include "timecode/counting.h"
 #include "timecode/frame_rate.h"
 #include "timecode/label_scanner.h"
 #include "timecode/label_text.h"
@@ -37,11 +38,10 @@ long long carried_frame_count(unsigned short rate, unsigned long long hours,
                               bool drop_frame) {
   const unsigned long long all_minutes = minutes + seconds / 60;
   const unsigned long long all_hours = hours + all_minutes / 60;
-  TimecodeState state(rate, drop_frame);
-  state.hours = static_cast<unsigned char>(all_hours % 24);
-  state.minutes = static_cast<unsigned char>(all_minutes % 60);
-  state.seconds = static_cast<unsigned char>(seconds % 60);
-  return state.count_of_label();
+  const Label label = {static_cast<unsigned char>(all_hours % 24),
+                       static_cast<unsigned char>(all_minutes % 60),
+                       static_cast<unsigned char>(seconds % 60)};
+  return count_of(label, rate, frame_rate_drop_frame_filter(rate, drop_frame));
 }
 
 Timecode lenient_timecode(const std::string& given, unsigned short rate, bool drop_frame) {
@@ -112,8 +112,8 @@ void add_minutes(Timecode& tc, int minutes) {
 }
 
 void log_timecode_difference(const char* label, const Timecode& previous, const Timecode& current) {
-  TimecodeState expected(previous.frame_rate(), wrapping_add(previous.frame_count(), 1),
-                         previous.drop_frame());
+  TimecodeState expected(previous.frame_rate(), previous.drop_frame(),
+                         wrapping_add(previous.frame_count(), 1));
   expected.normalize(true);
   if (expected.absolute_frame_count() == current.absolute_frame_count()) return;
 
@@ -128,12 +128,9 @@ void log_timecode_difference(const char* label, const Timecode& previous, const 
 
 Timecode load_timecode_from_full_st12m(unsigned short rate, unsigned long long word,
                                        bool ignore_field_mark) {
-  const St12Layout& layout = kSt12Word64;
-  const bool field_mark =
-      !ignore_field_mark && is_double_rate(rate) && bit(word, layout.field_mark_bit_at(rate));
-  return Timecode(rate, layout.hours.unpack(word), layout.minutes.unpack(word),
-                  layout.seconds.unpack(word), layout.frames.unpack(word),
-                  bit(word, layout.drop_frame_bit), field_mark);
+  const Label label = label_of_word(kSt12Word64, rate, word);
+  return Timecode(rate, label.hours, label.minutes, label.seconds, label.frames,
+                  bit(word, kSt12Word64.drop_frame_bit), label.field_mark && !ignore_field_mark);
 }
 
 }  // namespace Korvane::TimecodeUtils

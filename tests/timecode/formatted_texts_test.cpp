@@ -15,7 +15,7 @@ void expect_texts(const std::wstring& wide, const std::string& narrow, const For
 }
 
 TEST(FormattedTexts, LongAndShortInAnyOrder) {
-  TimecodeState state(30, false);
+  TimecodeState state(30, false, 0);
   state.hours = 7;
   FormattedTexts texts;
   const std::string long_text(100, 'x');
@@ -35,7 +35,7 @@ TEST(FormattedTexts, LongAndShortInAnyOrder) {
 }
 
 TEST(FormattedTexts, TheTextBeforeMayBeThePatternOrPartOfIt) {
-  TimecodeState state(30, false);
+  TimecodeState state(30, false, 0);
   state.hours = 7;
   FormattedTexts texts;
   const FormattedText& first = texts.write(state, "a%HHb%%HH");
@@ -44,7 +44,7 @@ TEST(FormattedTexts, TheTextBeforeMayBeThePatternOrPartOfIt) {
 }
 
 TEST(FormattedTexts, TheTextBeforeStaysDuringACall) {
-  const TimecodeState state(30, false);
+  const TimecodeState state(30, false, 0);
   FormattedTexts texts;
   const FormattedText& first = texts.write(state, "first %HH");
   texts.write(state, "second %HH");

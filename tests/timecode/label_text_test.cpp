@@ -7,6 +7,7 @@
 #include <random>
 #include <regex>
 #include <string>
+#include <vector>
 
 namespace Korvane {
 namespace {
@@ -49,7 +50,7 @@ TEST(ExpandPattern, TooLongATextIsLeftToTheConversion) {
 }
 
 TEST(ExpandPattern, LeavesWhatIsNoToken) {
-  TimecodeState state(30, false);
+  TimecodeState state(30, false, 0);
   state.hours = 1;
   for (const char* const pattern :
        {"xHH", "HHH", "%", "%H", "%HM", "%hh", "%XX", "%%H", "\x80", ""})
@@ -63,7 +64,7 @@ TEST(ExpandPattern, EqualsFourRegexReplacements) {
   const std::string pieces[] = {"%HH", "%MM", "%SS", "%FF", "%", "%%", "H", "M",   "S", "F",
                                 "%H",  "%M",  "%S",  "%F",  "0", "1",  "$", "\\1", " ", "\xC3\xA4"};
   for (int i = 0; i < 20000; ++i) {
-    TimecodeState state(30, false);
+    TimecodeState state(30, false, 0);
     state.hours = static_cast<unsigned char>(random() % 100);
     state.minutes = static_cast<unsigned char>(random() % 100);
     state.seconds = static_cast<unsigned char>(random() % 100);
@@ -76,7 +77,7 @@ TEST(ExpandPattern, EqualsFourRegexReplacements) {
 }
 
 TEST(WriteLabel, FortyEightIsADoubleRate) {
-  TimecodeState state(48, false);
+  TimecodeState state(48, false, 0);
   state.frames = 23;
   state.field_mark = true;
   LabelText text;

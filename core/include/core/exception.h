@@ -43,7 +43,7 @@ KV_CORE_API void exception_enforce(bool condition, ExceptionCode code, const cha
                                    bool flag);
 
 // Raises Exception(code, message). `flag` is reserved: pass true.
-KV_CORE_API void exception_throw(ExceptionCode code, const char* message, bool flag);
+[[noreturn]] KV_CORE_API void exception_throw(ExceptionCode code, const char* message, bool flag);
 
 }  // namespace Korvane
 #endif  // KV_CORE_EXCEPTION_H
