@@ -8,12 +8,17 @@
 
 namespace Korvane {
 
-template <typename Value>
+// The first value brings room for `first_room` of them: where values own records, growing copies
+// and frees each.
+template <typename Value, std::size_t first_room = 1>
 struct ListRecord {
   std::vector<Value> values;
 
   // `value` may lie in the list itself.
-  void add(const Value& value) { values.push_back(value); }
+  void add(const Value& value) {
+    if (values.empty()) values.reserve(first_room);
+    values.push_back(value);
+  }
 
   std::size_t size() const { return values.size(); }
 

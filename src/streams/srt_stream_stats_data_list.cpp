@@ -4,7 +4,8 @@
 
 namespace Korvane::Media {
 
-struct SRTStreamStatsDataListPrivate : ListRecord<SRTStreamStatsData> {};
+// Room for two minutes of samples, one each second.
+struct SRTStreamStatsDataListPrivate : ListRecord<SRTStreamStatsData, 128> {};
 
 SRTStreamStatsDataList::SRTStreamStatsDataList() : private_(new SRTStreamStatsDataListPrivate) {}
 

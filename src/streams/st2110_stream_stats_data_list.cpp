@@ -4,7 +4,8 @@
 
 namespace Korvane::Media {
 
-struct ST2110StreamStatsDataListPrivate : ListRecord<ST2110StreamStatsData> {};
+// Room for two minutes of samples, one each second.
+struct ST2110StreamStatsDataListPrivate : ListRecord<ST2110StreamStatsData, 128> {};
 
 ST2110StreamStatsDataList::ST2110StreamStatsDataList()
     : private_(new ST2110StreamStatsDataListPrivate) {}

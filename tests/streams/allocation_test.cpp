@@ -185,5 +185,39 @@ TEST(StreamAllocations, WithoutMemorySamplesAreAsBefore) {
   expect_samples_kept_without_memory<ST2110StreamStatsDataList, ST2110StreamStatsData>();
 }
 
+// A sample is copied for the call and into the list.
+template <typename List, typename Sample>
+void expect_room_for_128_samples() {
+  List list;
+  const Sample sample;
+  const auto add = [&](int count) {
+    return made_by([&] {
+      for (int i = 0; i < count; ++i) list.add_value(sample);
+    });
+  };
+  EXPECT_EQ(1 + 128 * 2, add(128));
+  EXPECT_EQ(1 + 128 + 2, add(1)) << "growing copies every sample";
+  EXPECT_EQ(127 * 2, add(127));
+}
+
+TEST(StreamAllocations, TwoMinutesOfSamplesAreNotCopiedAgain) {
+  expect_room_for_128_samples<SRTStreamStatsDataList, SRTStreamStatsData>();
+  expect_room_for_128_samples<ST2110StreamStatsDataList, ST2110StreamStatsData>();
+}
+
+template <typename List, typename Sample>
+void expect_full_list_kept_without_memory() {
+  List full;
+  const Sample sample;
+  for (int i = 0; i < 128; ++i) full.add_value(sample);
+  expect_kept_without_memory([&] { return full; }, [&](List& list) { list.add_value(sample); },
+                             [](const List& list) { return list.size() == 128; });
+}
+
+TEST(StreamAllocations, WithoutMemoryToGrowAListIsAsBefore) {
+  expect_full_list_kept_without_memory<SRTStreamStatsDataList, SRTStreamStatsData>();
+  expect_full_list_kept_without_memory<ST2110StreamStatsDataList, ST2110StreamStatsData>();
+}
+
 }  // namespace
 }  // namespace Korvane::Media::AllocationTests
