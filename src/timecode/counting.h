@@ -23,8 +23,8 @@ struct Counting {
 };
 
 // Calls `work` with the way of counting at `rate`; `drop` plays no part at rates that drop nothing.
-// Raises that the rate is not supported. Always inline, with what makes new timecodes: that takes a
-// twelfth off their time.
+// Raises that the rate is not supported. Always inline, as what makes timecodes is: that takes
+// a twelfth off their instructions.
 template <typename Work>
 [[gnu::always_inline]] inline auto with_counting(unsigned short rate, bool drop, const Work& work) {
   switch (rate) {

@@ -1,5 +1,5 @@
-// The numbers of one timecode. `frame_count` rules; after normalize() every field below it follows
-// from it, from the rate and from the drop-frame flag.
+// The numbers of one timecode. `frame_count` rules; after normalize() all others follow from it,
+// from the rate and from the drop-frame flag.
 
 #ifndef KV_ENGINE_SRC_TIMECODE_TIMECODE_STATE_H
 #define KV_ENGINE_SRC_TIMECODE_TIMECODE_STATE_H
@@ -16,6 +16,7 @@ enum class Stepping : unsigned char {
   Pairs     // likewise, with every second step; the field mark with each
 };
 
+// Its frames count pairs at double rates, and the field mark tells the second of a pair.
 struct Label {
   unsigned char hours = 0, minutes = 0, seconds = 0, frames = 0;
   bool field_mark = false;
