@@ -34,8 +34,7 @@ struct TimecodeState : Label {
   TimecodeState(unsigned short rate, bool drop, long long count, const Label& label = Label())
       : Label(label), drop_frame(drop), frame_rate(rate), frame_count(count) {}
 
-  // Derives everything from the frame count; with `wrap` the label is brought into one day. Raises
-  // that the rate is not supported.
+  // Derives everything from the frame count; with `wrap` the label is brought into one day.
   void normalize(bool wrap);
 
   long long absolute_frame_count() const { return wrapping_add(frame_count, to_first_day); }

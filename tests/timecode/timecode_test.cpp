@@ -80,6 +80,26 @@ TEST(TimecodeConstruction, DropFrameEdgesInBothDirections) {
   }
 }
 
+TEST(TimecodeConstruction, EveryConstructorCountsAtEveryRate) {
+  // 01:02:03 is second 3723; drop-frame counting left out numbers in 56 of 62 minutes.
+  const struct {
+    unsigned short rate;
+    bool drop;
+    long long count;
+  } ways[] = {{24, false, 89352},  {25, false, 93075},  {30, false, 111690}, {30, true, 111578},
+              {50, false, 186150}, {60, false, 223380}, {60, true, 223156}};
+  for (const auto& [rate, drop, count] : ways) {
+    const Timecode same[] = {Timecode(rate, 1, 2, 3, 0, drop, false), Timecode(rate, 1, 2, 3, drop),
+                             Timecode(rate, drop ? 0x01020340U : 0x01020300U),
+                             Timecode(rate, count, drop)};
+    for (const Timecode& timecode : same) {
+      EXPECT_EQ(count, timecode.frame_count());
+      EXPECT_STREQ(drop ? "01:02:03;00" : "01:02:03:00",
+                   timecode.c_str(Timecode::DropFrameSemicolon, Timecode::FieldMarkOmitted));
+    }
+  }
+}
+
 TEST(TimecodeConstruction, FiveArgumentsSkipTheDropFrameLabelRule) {
   const Timecode timecode(30, 0, 1, 0, true);
   EXPECT_EQ("00:00:59;28", label(timecode));
