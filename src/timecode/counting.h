@@ -128,7 +128,7 @@ TimecodeState state_of_label(const Label& label, bool wrap, bool check_drop_fram
   TimecodeState state(Counting::kRate, Counting::kDrop, count, label);
   if (check_drop_frame_label && label.hours != 24) {
     // A label of the day that counting does not leave out is what it would be derived to.
-    state.field_mark = label.field_mark && is_double_rate(Counting::kRate);
+    if constexpr (!is_double_rate(Counting::kRate)) state.field_mark = false;
     state.stepping = Counting::kStepping;
     state.last_frame = Counting::kLastFrame;
   } else {
