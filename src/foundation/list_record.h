@@ -8,17 +8,17 @@
 
 namespace Korvane {
 
-// The first value brings room for `first_room` of them: where values own records, growing copies
-// and frees each.
-template <typename Value, std::size_t first_room = 1>
+template <typename Value>
 struct ListRecord {
   std::vector<Value> values;
 
-  // `value` may lie in the list itself.
-  void add(const Value& value) {
-    if (values.empty()) values.reserve(first_room);
-    values.push_back(value);
+  // Before the first value: where values own records, a list that grows copies and frees each.
+  void start_with_room_for(std::size_t count) {
+    if (values.empty()) values.reserve(count);
   }
+
+  // `value` may lie in the list itself.
+  void add(const Value& value) { values.push_back(value); }
 
   std::size_t size() const { return values.size(); }
 

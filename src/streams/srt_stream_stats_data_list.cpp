@@ -4,8 +4,7 @@
 
 namespace Korvane::Media {
 
-// Room for two minutes of samples, one each second.
-struct SRTStreamStatsDataListPrivate : ListRecord<SRTStreamStatsData, 128> {};
+struct SRTStreamStatsDataListPrivate : ListRecord<SRTStreamStatsData> {};
 
 SRTStreamStatsDataList::SRTStreamStatsDataList() : private_(new SRTStreamStatsDataListPrivate) {}
 
@@ -17,7 +16,10 @@ SRTStreamStatsDataList& SRTStreamStatsDataList::operator=(const SRTStreamStatsDa
 SRTStreamStatsDataList::~SRTStreamStatsDataList() = default;
 
 // Published with a value. NOLINTNEXTLINE(performance-unnecessary-value-param)
-void SRTStreamStatsDataList::add_value(SRTStreamStatsData value) { private_->add(value); }
+void SRTStreamStatsDataList::add_value(SRTStreamStatsData value) {
+  private_->start_with_room_for(128);  // two minutes of samples, one each second
+  private_->add(value);
+}
 
 size_t SRTStreamStatsDataList::size() const { return private_->size(); }
 

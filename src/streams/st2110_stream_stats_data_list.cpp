@@ -4,8 +4,7 @@
 
 namespace Korvane::Media {
 
-// Room for two minutes of samples, one each second.
-struct ST2110StreamStatsDataListPrivate : ListRecord<ST2110StreamStatsData, 128> {};
+struct ST2110StreamStatsDataListPrivate : ListRecord<ST2110StreamStatsData> {};
 
 ST2110StreamStatsDataList::ST2110StreamStatsDataList()
     : private_(new ST2110StreamStatsDataListPrivate) {}
@@ -19,7 +18,10 @@ ST2110StreamStatsDataList& ST2110StreamStatsDataList::operator=(
 ST2110StreamStatsDataList::~ST2110StreamStatsDataList() = default;
 
 // Published with a value. NOLINTNEXTLINE(performance-unnecessary-value-param)
-void ST2110StreamStatsDataList::add_value(ST2110StreamStatsData value) { private_->add(value); }
+void ST2110StreamStatsDataList::add_value(ST2110StreamStatsData value) {
+  private_->start_with_room_for(128);  // two minutes of samples, one each second
+  private_->add(value);
+}
 
 size_t ST2110StreamStatsDataList::size() const { return private_->size(); }
 
