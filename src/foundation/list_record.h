@@ -12,11 +12,6 @@ template <typename Value>
 struct ListRecord {
   std::vector<Value> values;
 
-  // Before the first value: where values own records, a list that grows copies and frees each.
-  void start_with_room_for(std::size_t count) {
-    if (values.empty()) values.reserve(count);
-  }
-
   // `value` may lie in the list itself.
   void add(const Value& value) { values.push_back(value); }
 

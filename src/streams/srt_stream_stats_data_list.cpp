@@ -1,10 +1,10 @@
 #include "media/srt_stream_stats_data_list.h"
 
-#include "foundation/list_record.h"
+#include "streams/sample_list_record.h"
 
 namespace Korvane::Media {
 
-struct SRTStreamStatsDataListPrivate : ListRecord<SRTStreamStatsData> {};
+struct SRTStreamStatsDataListPrivate : SampleListRecord<SRTStreamStatsData> {};
 
 SRTStreamStatsDataList::SRTStreamStatsDataList() : private_(new SRTStreamStatsDataListPrivate) {}
 
@@ -16,10 +16,7 @@ SRTStreamStatsDataList& SRTStreamStatsDataList::operator=(const SRTStreamStatsDa
 SRTStreamStatsDataList::~SRTStreamStatsDataList() = default;
 
 // Published with a value. NOLINTNEXTLINE(performance-unnecessary-value-param)
-void SRTStreamStatsDataList::add_value(SRTStreamStatsData value) {
-  private_->start_with_room_for(128);  // two minutes of samples, one each second
-  private_->add(value);
-}
+void SRTStreamStatsDataList::add_value(SRTStreamStatsData value) { private_->add(value); }
 
 size_t SRTStreamStatsDataList::size() const { return private_->size(); }
 

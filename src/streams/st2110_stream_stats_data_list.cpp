@@ -1,10 +1,10 @@
 #include "media/st2110_stream_stats_data_list.h"
 
-#include "foundation/list_record.h"
+#include "streams/sample_list_record.h"
 
 namespace Korvane::Media {
 
-struct ST2110StreamStatsDataListPrivate : ListRecord<ST2110StreamStatsData> {};
+struct ST2110StreamStatsDataListPrivate : SampleListRecord<ST2110StreamStatsData> {};
 
 ST2110StreamStatsDataList::ST2110StreamStatsDataList()
     : private_(new ST2110StreamStatsDataListPrivate) {}
@@ -18,10 +18,7 @@ ST2110StreamStatsDataList& ST2110StreamStatsDataList::operator=(
 ST2110StreamStatsDataList::~ST2110StreamStatsDataList() = default;
 
 // Published with a value. NOLINTNEXTLINE(performance-unnecessary-value-param)
-void ST2110StreamStatsDataList::add_value(ST2110StreamStatsData value) {
-  private_->start_with_room_for(128);  // two minutes of samples, one each second
-  private_->add(value);
-}
+void ST2110StreamStatsDataList::add_value(ST2110StreamStatsData value) { private_->add(value); }
 
 size_t ST2110StreamStatsDataList::size() const { return private_->size(); }
 

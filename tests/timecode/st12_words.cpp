@@ -45,8 +45,11 @@ Fields fields_of(unsigned short rate, unsigned int word) {
 
 // What the library finds wrong with a word, before it raises that. Null for one that it accepts.
 const char* found_fault(unsigned short rate, unsigned int word) {
-  const bool drops = bit(word, kSt12Word32.drop_frame_bit) && can_drop_frames(rate);
-  return fault_of(label_of_word(kSt12Word32, rate, word), last_label_frame(rate), drops);
+  const Label label = label_of_word(kSt12Word32, rate, word);
+  const bool drop = bit(word, kSt12Word32.drop_frame_bit);
+  return with_counting(rate, drop, [&]<typename Counting>(Counting) {
+    return fault_of(label, Counting::kLastFrame, Counting::kDrop);
+  });
 }
 
 bool same_text(const char* a, const char* b) {
