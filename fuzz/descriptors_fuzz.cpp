@@ -1,8 +1,8 @@
 // Operations in any order on descriptors of every class: each holds what was last set, through its
-// setters or through its getters, and none shares anything with another.
+// setters or through its getters, and none shares anything with another. Seen at the end: each
+// beginning of a sequence is a sequence too.
 
 #include <array>
-#include <map>
 #include <memory>
 #include <optional>
 
@@ -18,6 +18,10 @@ namespace Media = Korvane::Media;
 
 using Number = std::optional<unsigned int>;
 
+constexpr std::array<const char*, 4> kKeys = {"", "a", "b", "language"};
+
+std::string text_of(unsigned int length) { return std::string(length, 'x'); }
+
 // The attributes of all classes; those that a class has not stay unset. A flag is 0 or 1, of a rate
 // this is the numerator.
 struct Attributes {
@@ -26,7 +30,7 @@ struct Attributes {
   Number width, height, field_height, interlaced, aspect_ratio, bit_rate, component_depth;
   unsigned int colorspace = 0, colorimetry = 0;
   Number sampling_rate, sampling_bits, channel_count;
-  std::map<std::string, std::string> key_values;
+  std::array<Number, 4> key_values;  // of each key, the length of its text
 };
 
 bool is(const unsigned int* value, const Number& model) {
@@ -52,11 +56,10 @@ void check(const Media::TrackDescriptor& track, const Attributes& model) {
   expect(is(track.sample_rate(), model.sample_rate));
   expect(is(track.pre_charge(), model.pre_charge));
   expect(is(track.private_data(), model.private_data));
-  for (const char* key : {"", "a", "b", "language"}) {
-    const char* const value = track.get_key_value(key);
-    const auto found = model.key_values.find(key);
-    expect(found != model.key_values.end() ? value != nullptr && found->second == value
-                                           : value == nullptr);
+  for (std::size_t key = 0; key < kKeys.size(); ++key) {
+    const char* const value = track.get_key_value(kKeys[key]);
+    const Number& length = model.key_values[key];
+    expect(length ? value != nullptr && text_of(*length) == value : value == nullptr);
   }
 }
 
@@ -101,13 +104,9 @@ void set(Media::TrackDescriptor& track, Attributes& model, Input& input) {
     case 5:
       if (model.track_id) *track.track_id() = *(model.track_id = value);
       break;
-    default: {
-      constexpr const char* kKeys[] = {"", "a", "b", "language"};
-      const char* const key = kKeys[value % 4];
-      const std::string text(value, 'x');
-      track.add_key_value(key, text.c_str());
-      model.key_values.emplace(key, text);  // the first one stays
-    }
+    default:
+      track.add_key_value(kKeys[value % 4], text_of(value).c_str());
+      if (!model.key_values[value % 4]) model.key_values[value % 4] = value;  // the first one stays
   }
 }
 
@@ -216,8 +215,8 @@ void run(Input& input) {
       default:
         set_own(one.track, one.model, input);
     }
-    for (const Described<Track>& described : tracks) check_all(described);
   }
+  for (const Described<Track>& described : tracks) check_all(described);
 }
 
 }  // namespace

@@ -29,16 +29,7 @@ void check_label(const Korvane::Timecode& timecode, Input& input) {
   expect(label.size() == (field_mark > Timecode::FieldMarkFramesDashed ? 9 : wider ? 13 : 11));
 }
 
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  Input input(data, size);
-  const unsigned short rates[] = {24, 25, 30, 50, 60};
-  const unsigned short rate = rates[input.take_below(5)];
-  const Korvane::Timecode timecode(rate, 11, 22, 33, 14, input.take_bool(), input.take_bool());
-  check_label(timecode, input);
-  const std::string pattern = input.rest().c_str();
-
+void check_pattern(const Korvane::Timecode& timecode, const std::string& pattern) {
   std::string expected = pattern;
   replace_all(expected, "%HH", "11");
   replace_all(expected, "%MM", "22");
@@ -48,5 +39,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const std::wstring wide(pattern.begin(), pattern.end());
   expect(timecode.formatter(wide.c_str()) != nullptr);
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  Input input(data, size);
+  const unsigned short rates[] = {24, 25, 30, 50, 60};
+  const unsigned short rate = rates[input.take_below(5)];
+  const Korvane::Timecode timecode(rate, 11, 22, 33, 14, input.take_bool(), input.take_bool());
+  if (input.take_below(8) == 0)
+    check_label(timecode, input);
+  else
+    check_pattern(timecode, input.rest().c_str());
   return 0;
 }

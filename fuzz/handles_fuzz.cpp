@@ -1,4 +1,5 @@
 // Operations in any order on handles of every class: each object lives as long as a handle to it.
+// Seen at the end: each beginning of a sequence is a sequence too.
 
 #include <array>
 #include <deque>
@@ -21,10 +22,8 @@ class Model {
   using Object = typename Kind::Object;
 
   void run(Input& input) {
-    while (input.has_operation()) {
-      step(input);
-      check();
-    }
+    while (input.has_operation()) step(input);
+    check();
   }
 
  private:

@@ -27,7 +27,7 @@ class Input {
   }
 
   // Whether a sequence of operations goes on: up to a length that is worth its time.
-  bool has_operation() { return size_ != 0 && operations_++ < 12; }
+  bool has_operation() { return size_ != 0 && operations_++ < 8; }
 
   // Below `count`.
   unsigned int take_below(unsigned int count) { return take<std::uint8_t>() % count; }

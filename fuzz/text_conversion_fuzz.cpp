@@ -1,17 +1,24 @@
-// Both conversions: any bytes become well-formed text, and well-formed text stays as it is.
+// Both conversions: any bytes, or any units of 16 bits, become well-formed text, and well-formed
+// text stays as it is.
 
 #include "input.h"
 #include "timecode/text_conversion.h"
 
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-  const std::string text = Korvane::Input(data, size).rest();
-  const std::wstring wide = Korvane::utf8_to_wide(text);
-  const std::string clean = Korvane::wide_to_utf8(wide);
-  Korvane::expect(Korvane::utf8_to_wide(clean) == wide);
+using Korvane::expect;
+using Korvane::Input;
+using Korvane::utf8_to_wide;
+using Korvane::wide_to_utf8;
 
-  std::wstring units;
-  for (const char c : text) units += static_cast<wchar_t>(static_cast<unsigned char>(c) << 8);
-  const std::string narrow = Korvane::wide_to_utf8(units);
-  Korvane::expect(Korvane::wide_to_utf8(Korvane::utf8_to_wide(narrow)) == narrow);
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  Input input(data, size);
+  if (input.take_bool()) {
+    const std::wstring wide = utf8_to_wide(input.rest());
+    expect(utf8_to_wide(wide_to_utf8(wide)) == wide);
+  } else {
+    std::wstring units(size / 2, L'\0');
+    for (wchar_t& unit : units) unit = static_cast<wchar_t>(input.take<unsigned short>());
+    const std::string narrow = wide_to_utf8(units);
+    expect(wide_to_utf8(utf8_to_wide(narrow)) == narrow);
+  }
   return 0;
 }
