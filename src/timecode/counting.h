@@ -59,11 +59,11 @@ inline const char* fault_of(const Label& label, unsigned char last_frame, bool d
 // The frame count of the label, which may be one that drop-frame counting leaves out.
 inline long long count_of(const Label& label, unsigned short rate, bool drop) {
   // In 64 bits for the sake of rates that nothing has refused yet.
-  const unsigned int seconds_of_day = (label.hours * 60U + label.minutes) * 60U + label.seconds;
-  unsigned long long count = 1ULL * seconds_of_day * rate;
+  const unsigned int minute_of_day = label.hours * 60U + label.minutes;
+  unsigned long long count = 1ULL * (minute_of_day * 60U + label.seconds) * rate;
   count += 1ULL * label.frames * frames_per_label_frame(rate);
   if (is_double_rate(rate) && label.field_mark) ++count;
-  if (drop) count -= dropped_before(rate, label.hours, label.minutes);
+  if (drop) count -= dropped_before(rate, minute_of_day);
   return static_cast<long long>(count);
 }
 
@@ -117,23 +117,23 @@ void normalize_by(TimecodeState& state, bool wrap) {
   derive_label<Counting>(state);
 }
 
-// Everything that follows from the label. Raises its first error; `check_drop_frame_label` also
-// refuses the labels that drop-frame counting leaves out.
+// Everything that follows from the count; with `wrap` the label is brought into one day.
 template <typename Counting>
-TimecodeState state_of_label(const Label& label, bool wrap, bool check_drop_frame_label) {
-  const bool drops_checked = Counting::kDrop && check_drop_frame_label;
-  if (const char* const fault = fault_of(label, Counting::kLastFrame, drops_checked))
-    exception_throw(InvalidArgument, fault, true);
-  const long long count = count_of(label, Counting::kRate, Counting::kDrop);
-  TimecodeState state(Counting::kRate, Counting::kDrop, count, label);
-  if (check_drop_frame_label && label.hours != 24) {
-    // A label of the day that counting does not leave out is what it would be derived to.
-    if constexpr (!is_double_rate(Counting::kRate)) state.field_mark = false;
-    state.stepping = Counting::kStepping;
-    state.last_frame = Counting::kLastFrame;
-  } else {
-    normalize_by<Counting>(state, wrap);
-  }
+TimecodeState state_of_count(long long count, bool wrap) {
+  TimecodeState state(Counting::kRate, Counting::kDrop, count);
+  normalize_by<Counting>(state, wrap);
+  return state;
+}
+
+// Everything that follows from a label of the day that counting does not leave out, which is what
+// it would be derived to.
+template <typename Counting>
+[[gnu::always_inline]] inline TimecodeState state_of_day_label(const Label& label) {
+  TimecodeState state(Counting::kRate, Counting::kDrop,
+                      count_of(label, Counting::kRate, Counting::kDrop), label);
+  if constexpr (!is_double_rate(Counting::kRate)) state.field_mark = false;
+  state.stepping = Counting::kStepping;
+  state.last_frame = Counting::kLastFrame;
   return state;
 }
 

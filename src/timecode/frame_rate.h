@@ -27,14 +27,13 @@ constexpr unsigned int dropped_per_minute(unsigned short rate) {
   return is_double_rate(rate) ? 4 : 2;
 }
 
-// The frames that lie before hh:mm:00:00 less those at that label without drop-frame counting.
-constexpr unsigned int dropped_before(unsigned short rate, unsigned int hours,
-                                      unsigned int minutes) {
-  return (hours * 54 - minutes / 10 + minutes) * dropped_per_minute(rate);
+// The numbers that drop-frame counting has left out before the minute.
+constexpr unsigned int dropped_before(unsigned short rate, unsigned int minute_of_day) {
+  return (minute_of_day - minute_of_day / 10) * dropped_per_minute(rate);
 }
 
 constexpr long long frames_per_day(unsigned short rate, bool drop_frame) {
-  return 24LL * 3600 * rate - (drop_frame ? dropped_before(rate, 24, 0) : 0);
+  return 24LL * 3600 * rate - (drop_frame ? dropped_before(rate, 24 * 60) : 0);
 }
 
 static_assert(frames_per_day(24, false) == 2073600);

@@ -2,23 +2,32 @@
 
 #include <array>
 #include <cstddef>
+#include <cstring>
 
 #include "timecode/frame_rate.h"
 
 namespace Korvane {
 namespace {
 
-// "00", "01" ... "99". Longer than it need be, so that no byte lies outside.
-using TwoDigits = std::array<std::array<char, 2>, 256>;
+struct TwoDigits {
+  std::array<wchar_t, 2> wide;
+  std::array<char, 2> narrow;
+};
 
-consteval TwoDigits two_digits() {
-  TwoDigits all{};
-  for (std::size_t i = 0; i < all.size(); ++i)
-    all[i] = {static_cast<char>('0' + i / 10 % 10), static_cast<char>('0' + i % 10)};
+// "00", "01" ... "99". Longer than it need be, so that no byte lies outside.
+using NumberTexts = std::array<TwoDigits, 256>;
+
+consteval NumberTexts number_texts() {
+  NumberTexts all{};
+  for (std::size_t i = 0; i < all.size(); ++i) {
+    const auto tens = static_cast<char>('0' + i / 10 % 10);
+    const auto ones = static_cast<char>('0' + i % 10);
+    all[i] = {{static_cast<wchar_t>(tens), static_cast<wchar_t>(ones)}, {tens, ones}};
+  }
   return all;
 }
 
-constexpr TwoDigits kTwoDigits = two_digits();
+constexpr NumberTexts kNumberTexts = number_texts();
 
 // Writes one text twice, narrow and wide.
 class TwinWriter {
@@ -31,7 +40,11 @@ class TwinWriter {
   }
 
   void number(unsigned char value) {
-    for (const char digit : kTwoDigits[value]) unit(digit);
+    const TwoDigits& digits = kNumberTexts[value];
+    std::memcpy(narrow_, digits.narrow.data(), sizeof digits.narrow);
+    std::memcpy(wide_, digits.wide.data(), sizeof digits.wide);
+    narrow_ += digits.narrow.size();
+    wide_ += digits.wide.size();
   }
 
   const char* end() const { return narrow_; }

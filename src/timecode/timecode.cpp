@@ -49,22 +49,31 @@ const LabelText& printed(TimecodePrivate& record, Timecode::DropFrameIndication 
   return record.text;
 }
 
-// Raises the first error of rate and label.
+// Apart, as few labels take it.
+template <typename Counting>
+[[gnu::noinline]] TimecodePrivate* derived_record(long long count, bool wrap) {
+  return new TimecodePrivate(state_of_count<Counting>(count, wrap));
+}
+
+// Raises the first error of rate and label; `check_drop_frame_label` also refuses the labels that
+// drop-frame counting leaves out.
 [[gnu::always_inline]] inline TimecodePrivate* record_of_label(unsigned short rate, bool drop_frame,
                                                                const Label& label, bool wrap,
                                                                bool check_drop_frame_label) {
   return with_counting(rate, drop_frame, [&]<typename Counting>(Counting) {
-    const TimecodeState state = state_of_label<Counting>(label, wrap, check_drop_frame_label);
-    return new TimecodePrivate(state);
+    const bool drops_checked = Counting::kDrop && check_drop_frame_label;
+    if (const char* const fault = fault_of(label, Counting::kLastFrame, drops_checked))
+      exception_throw(InvalidArgument, fault, true);
+    if (check_drop_frame_label && label.hours != 24) [[likely]]
+      return new TimecodePrivate(state_of_day_label<Counting>(label));
+    return derived_record<Counting>(count_of(label, Counting::kRate, Counting::kDrop), wrap);
   });
 }
 
 [[gnu::always_inline]] inline TimecodePrivate* record_of_count(unsigned short rate, bool drop_frame,
                                                                long long count) {
   return with_counting(rate, drop_frame, [&]<typename Counting>(Counting) {
-    TimecodeState state(Counting::kRate, Counting::kDrop, count);
-    normalize_by<Counting>(state, true);
-    return new TimecodePrivate(state);
+    return new TimecodePrivate(state_of_count<Counting>(count, true));
   });
 }
 

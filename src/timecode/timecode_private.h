@@ -4,6 +4,7 @@
 #define KV_ENGINE_SRC_TIMECODE_TIMECODE_PRIVATE_H
 
 #include <memory>
+#include <new>
 
 #include "timecode/formatted_texts.h"
 #include "timecode/label_text.h"
@@ -15,7 +16,14 @@ struct TimecodePrivate : TimecodeState {
   std::unique_ptr<FormattedTexts> formatted;  // null until the first call
   LabelText text;                             // nothing until the first call
 
-  explicit TimecodePrivate(const TimecodeState& state) : TimecodeState(state) {}
+  // Number by number, so that they go from registers into the record.
+  explicit TimecodePrivate(const TimecodeState& state)
+      : TimecodeState(state.frame_rate, state.drop_frame, state.frame_count, state) {
+    to_first_day = state.to_first_day;
+    days = state.days;
+    stepping = state.stepping;
+    last_frame = state.last_frame;
+  }
 
   // A copy does not carry the texts, nor the days, which its first step derives.
   TimecodePrivate(const TimecodePrivate& other) : TimecodeState(other) {
@@ -24,6 +32,18 @@ struct TimecodePrivate : TimecodeState {
   }
   TimecodePrivate& operator=(const TimecodePrivate&) = delete;
   ~TimecodePrivate() = default;
+
+  // Most have no formatted texts, and then nothing is left but to give the memory back.
+  static void operator delete(TimecodePrivate* record, std::destroying_delete_t) {
+    if (record->formatted != nullptr) return delete_with_texts(record);
+    ::operator delete(record);
+  }
+
+ private:
+  [[gnu::cold, gnu::noinline]] static void delete_with_texts(TimecodePrivate* record) {
+    record->~TimecodePrivate();
+    ::operator delete(record);
+  }
 };
 
 }  // namespace Korvane
