@@ -103,7 +103,8 @@ void enter_day(TimecodeState& state, bool wrap) {
   state.days = static_cast<short>(whole_days);  // as if counted one by one in 16 bits
   const bool in_place = wrap && count >= -kFarCount && count < kFarCount;
   state.last_frame = Counting::kLastFrame;
-  state.stepping = in_place ? Counting::kStepping : Stepping::Derived;
+  state.stepping = Stepping::Derived;
+  if (in_place) state.stepping = Counting::kStepping;
 }
 
 // Derives everything from the frame count; with `wrap` the label is brought into one day.

@@ -60,7 +60,8 @@ template <typename Counting>
 [[gnu::always_inline]] inline TimecodePrivate* record_of_label(unsigned short rate, bool drop_frame,
                                                                const Label& label, bool wrap,
                                                                bool check_drop_frame_label) {
-  return with_counting(rate, drop_frame, [&]<typename Counting>(Counting) {
+  return with_counting(rate, drop_frame, [&](auto way) {
+    using Counting = decltype(way);
     const bool drops_checked = Counting::kDrop && check_drop_frame_label;
     if (const char* const fault = fault_of(label, Counting::kLastFrame, drops_checked))
       exception_throw(InvalidArgument, fault, true);
@@ -72,7 +73,8 @@ template <typename Counting>
 
 [[gnu::always_inline]] inline TimecodePrivate* record_of_count(unsigned short rate, bool drop_frame,
                                                                long long count) {
-  return with_counting(rate, drop_frame, [&]<typename Counting>(Counting) {
+  return with_counting(rate, drop_frame, [&](auto way) {
+    using Counting = decltype(way);
     return new TimecodePrivate(state_of_count<Counting>(count, true));
   });
 }

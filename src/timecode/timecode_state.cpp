@@ -6,7 +6,7 @@
 namespace Korvane {
 
 void TimecodeState::normalize(bool wrap) {
-  const auto work = [=, this]<typename Counting>(Counting) { normalize_by<Counting>(*this, wrap); };
+  const auto work = [=, this](auto way) { normalize_by<decltype(way)>(*this, wrap); };
   with_counting(frame_rate, drop_frame, work);  // GCOVR_EXCL_BR_LINE: the rate is supported
 }
 
