@@ -2,6 +2,7 @@
 
 #include <bit>
 
+#include "core/exception.h"
 #include "foundation/required_text.h"
 #include "foundation/wrapping.h"
 #include "timecode/counting.h"

@@ -16,14 +16,7 @@ struct TimecodePrivate : TimecodeState {
   std::unique_ptr<FormattedTexts> formatted;  // null until the first call
   LabelText text;                             // nothing until the first call
 
-  // Number by number, so that they go from registers into the record.
-  explicit TimecodePrivate(const TimecodeState& state)
-      : TimecodeState(state.frame_rate, state.drop_frame, state.frame_count, state) {
-    to_first_day = state.to_first_day;
-    days = state.days;
-    stepping = state.stepping;
-    last_frame = state.last_frame;
-  }
+  explicit TimecodePrivate(const TimecodeState& state) : TimecodeState(state) {}
 
   // A copy does not carry the texts, nor the days, which its first step derives.
   TimecodePrivate(const TimecodePrivate& other) : TimecodeState(other) {

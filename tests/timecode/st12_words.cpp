@@ -47,7 +47,8 @@ Fields fields_of(unsigned short rate, unsigned int word) {
 const char* found_fault(unsigned short rate, unsigned int word) {
   const Label label = label_of_word(kSt12Word32, rate, word);
   const bool drop = bit(word, kSt12Word32.drop_frame_bit);
-  return with_counting(rate, drop, [&]<typename Counting>(Counting) {
+  return with_counting(rate, drop, [&](auto way) {
+    using Counting = decltype(way);
     return fault_of(label, Counting::kLastFrame, Counting::kDrop);
   });
 }
