@@ -34,14 +34,22 @@ void add_stream_cases(Cases& cases);
 void add_timecode_cases(Cases& cases);
 void add_track_cases(Cases& cases);
 
-// A function that changes no object.
-template <typename Operation>
-void add_function_case(Cases& cases, std::string name, Operation operation,
-                       Failing as = Failing::AsBadAlloc) {
-  cases.push_back({std::move(name), [operation, as] {
-                     exhaust([] { return 0; }, [&](int /*none*/) { operation(); },
-                             [](int /*none*/) {}, as);
+template <typename Subject>
+void add_case(Cases& cases, std::string name, std::function<Subject()> make,
+              std::function<void(Subject&)> operation, std::function<void(Subject&)> check,
+              Failing as = Failing::AsBadAlloc) {
+  cases.push_back({std::move(name), [=] {
+                     AttemptOn<Subject> attempt(make, operation, check);
+                     exhaust(attempt, as);
                    }});
+}
+
+// A function that changes no object.
+inline void add_function_case(Cases& cases, std::string name, std::function<void()> operation,
+                              Failing as = Failing::AsBadAlloc) {
+  add_case<int>(
+      cases, std::move(name), [] { return 0; }, [operation](int& /*none*/) { operation(); },
+      [](int& /*none*/) {}, as);
 }
 
 template <typename Result, typename... Parameters, typename... Arguments>
@@ -53,34 +61,30 @@ void add_function_case(Cases& cases, const char* name, Result (*function)(Parame
 
 // Adds the cases of a class. `make` returns an object on which its operations are to be run. What
 // the getters give, and what was added by reading(), is what must be as before when memory ran out.
-template <typename Make>
+template <typename Class>
 class ClassCases {
  public:
-  using Class = std::invoke_result_t<Make>;
+  using Make = std::function<Class()>;
+  using Operation = std::function<void(Class&)>;
+  using Reader = std::function<std::string(Class&)>;
 
   ClassCases(Cases& cases, Make make) : cases_(cases), make_(std::move(make)) {}
 
   // `reader` gives a text of something that can be seen of an object.
-  template <typename Reader>
-  void reading(Reader reader) {
-    readers_->push_back(reader);
-  }
+  void reading(Reader reader) { readers_->push_back(std::move(reader)); }
 
-  // `operation` takes a Class&; without memory it leaves the object as it was.
-  template <typename Operation>
+  // `operation` without memory leaves the object as it was.
   void operation(std::string name, Operation operation) {
     const auto as_before = [make = make_, readers = readers_](Class& subject) {
       Class unchanged = make();
       EXPECT_EQ(seen(*readers, unchanged), seen(*readers, subject));
     };
-    operation_leaving(std::move(name), operation, as_before);
+    operation_leaving(std::move(name), std::move(operation), as_before);
   }
 
   // `operation` without memory leaves an object that `check` takes for right.
-  template <typename Operation, typename Check>
-  void operation_leaving(std::string name, Operation operation, Check check) {
-    cases_.push_back(
-        {std::move(name), [make = make_, operation, check] { exhaust(make, operation, check); }});
+  void operation_leaving(std::string name, Operation operation, Operation check) {
+    add_case<Class>(cases_, std::move(name), make_, std::move(operation), std::move(check));
   }
 
   template <typename Result, typename Owner>
@@ -136,15 +140,14 @@ class ClassCases {
   }
 
   void destruction() {
-    const auto make_owned = [make = make_] { return std::unique_ptr<Class>(new Class(make())); };
-    cases_.push_back({destructor_name<Class>(), [make_owned] {
-                        exhaust(
-                            make_owned, [](auto& owned) { owned.reset(); }, [](auto& /*owned*/) {});
-                      }});
+    using Owned = std::unique_ptr<Class>;
+    add_case<Owned>(
+        cases_, destructor_name<Class>(), [make = make_] { return Owned(new Class(make())); },
+        [](Owned& owned) { owned.reset(); }, [](Owned& /*owned*/) {});
   }
 
  private:
-  using Readers = std::vector<std::function<std::string(Class&)>>;
+  using Readers = std::vector<Reader>;
 
   static std::string seen(const Readers& readers, Class& subject) {
     std::string text;
@@ -169,12 +172,15 @@ class ClassCases {
   std::shared_ptr<Readers> readers_ = std::make_shared<Readers>();
 };
 
+template <typename Make>
+ClassCases(Cases&, Make) -> ClassCases<std::invoke_result_t<Make>>;
+
 // The members of an interface, which its copyable concrete class calls.
 template <typename Interface, typename Concrete>
 void add_interface_cases(Cases& cases) {
-  const auto make = [] { return Concrete(); };
-  const auto add = [&](std::string name, auto operation) {
-    cases.push_back({std::move(name), [=] { exhaust(make, operation, [](Concrete&) {}); }});
+  const auto add = [&](std::string name, std::function<void(Concrete&)> operation) {
+    add_case<Concrete>(
+        cases, std::move(name), [] { return Concrete(); }, std::move(operation), [](Concrete&) {});
   };
   add(constructor_name<Interface>(), [](Concrete&) { const Concrete made; });
   add(constructor_name<Interface, const Interface&>(),

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <new>
 #include <ostream>
@@ -65,10 +66,14 @@ class Attempt {
 // object is checked; then it takes a new value and is destroyed. Nothing may leak.
 void exhaust(Attempt& attempt, Failing as);
 
-template <typename Make, typename Operation, typename Check>
-class AttemptOf final : public Attempt {
+// One type for all operations of a subject: hundreds take the compiler long otherwise.
+template <typename Subject>
+class AttemptOn final : public Attempt {
  public:
-  AttemptOf(const Make& make, const Operation& operation, const Check& check)
+  using Make = std::function<Subject()>;
+  using Operation = std::function<void(Subject&)>;
+
+  AttemptOn(const Make& make, const Operation& operation, const Operation& check)
       : make_(make), operation_(operation), check_(check) {}
 
   void make() override { subject_.reset(new Subject(make_())); }
@@ -81,20 +86,11 @@ class AttemptOf final : public Attempt {
   }
 
  private:
-  using Subject = std::invoke_result_t<const Make&>;
-
   const Make& make_;
   const Operation& operation_;
-  const Check& check_;
+  const Operation& check_;
   std::unique_ptr<Subject> subject_;
 };
-
-template <typename Make, typename Operation, typename Check>
-void exhaust(const Make& make, const Operation& operation, const Check& check,
-             Failing as = Failing::AsBadAlloc) {
-  AttemptOf<Make, Operation, Check> attempt(make, operation, check);
-  exhaust(attempt, as);
-}
 
 }  // namespace Korvane::MemoryTests
 #endif  // KV_ENGINE_TESTS_MEMORY_EXHAUSTION_H

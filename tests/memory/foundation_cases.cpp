@@ -68,23 +68,20 @@ template <typename Kind>
 void add_taking_an_object(Cases& cases, bool reset_is_const) {
   using Handle = typename Kind::Handle;
   using Object = typename Kind::Object;
-  const auto make = [] { return Given<Kind>(); };
-  cases.push_back({constructor_name<Handle, Object*>(), [make] {
-                     exhaust(
-                         make,
-                         [](Given<Kind>& given) { const Handle made(given.object.release()); },
-                         [](Given<Kind>& given) { EXPECT_NE(nullptr, given.handle.get()); });
-                   }});
-  cases.push_back({member_name<Handle, Object*>("reset", reset_is_const), [make] {
-                     exhaust(
-                         make,
-                         [](Given<Kind>& given) { given.handle.reset(given.object.release()); },
-                         [](Given<Kind>& given) {
-                           EXPECT_EQ(nullptr, given.handle.get());
-                           given.handle = Handle(Given<Kind>::make_object());
-                           EXPECT_NE(nullptr, given.handle.get());
-                         });
-                   }});
+  using GivenKind = Given<Kind>;
+  const auto make = [] { return GivenKind(); };
+  add_case<GivenKind>(
+      cases, constructor_name<Handle, Object*>(), make,
+      [](GivenKind& given) { const Handle made(given.object.release()); },
+      [](GivenKind& given) { EXPECT_NE(nullptr, given.handle.get()); });
+  add_case<GivenKind>(
+      cases, member_name<Handle, Object*>("reset", reset_is_const), make,
+      [](GivenKind& given) { given.handle.reset(given.object.release()); },
+      [](GivenKind& given) {
+        EXPECT_EQ(nullptr, given.handle.get());
+        given.handle = Handle(GivenKind::make_object());
+        EXPECT_NE(nullptr, given.handle.get());
+      });
 }
 
 // Assignment and reset give up the old object before they need memory: without it the handle holds

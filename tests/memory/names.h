@@ -9,6 +9,7 @@
 #include <string>
 #include <type_traits>
 #include <typeinfo>
+#include <vector>
 
 namespace Korvane::MemoryTests {
 
@@ -20,45 +21,56 @@ inline std::string demangled(const char* name) {
   return result;
 }
 
+enum class Reference { None, Lvalue, Rvalue };
+
+inline std::string type_name(const std::type_info& plain, bool is_const, Reference reference) {
+  constexpr const char* kMarks[] = {"", "&", "&&"};
+  return demangled(plain.name()) + (is_const ? " const" : "") + kMarks[static_cast<int>(reference)];
+}
+
 template <typename Type>
 std::string type_name() {
   using Referred = std::remove_reference_t<Type>;
-  using Plain = std::remove_const_t<Referred>;
-  std::string name = demangled(typeid(Plain).name());
-  if (std::is_const_v<Referred>) name += " const";
-  if (std::is_lvalue_reference_v<Type>) name += '&';
-  if (std::is_rvalue_reference_v<Type>) name += "&&";
-  return name;
+  return type_name(typeid(std::remove_const_t<Referred>), std::is_const_v<Referred>,
+                   std::is_lvalue_reference_v<Type>   ? Reference::Lvalue
+                   : std::is_rvalue_reference_v<Type> ? Reference::Rvalue
+                                                      : Reference::None);
+}
+
+inline std::string in_parentheses(const std::vector<std::string>& types) {
+  std::string names;
+  for (const std::string& type : types) names += (names.empty() ? "" : ", ") + type;
+  return '(' + names + ')';
 }
 
 template <typename... Parameters>
 std::string parameter_names() {
-  std::string names;
-  ((names += (names.empty() ? "" : ", ") + type_name<Parameters>()), ...);
-  return '(' + names + ')';
+  return in_parentheses({type_name<Parameters>()...});
 }
 
 // The name of a class without its namespaces.
-template <typename Class>
-std::string last_name() {
-  const std::string name = type_name<Class>();
-  return name.substr(name.rfind(':') + 1);
+inline std::string last_name(const std::string& name) { return name.substr(name.rfind(':') + 1); }
+
+inline std::string member_name(const std::string& type, const std::string& name,
+                               const std::string& parameters, bool is_const = false) {
+  return type + "::" + name + parameters + (is_const ? " const" : "");
 }
 
 template <typename Class, typename... Parameters>
 std::string constructor_name() {
-  return type_name<Class>() + "::" + last_name<Class>() + parameter_names<Parameters...>();
+  const std::string type = type_name<Class>();
+  return member_name(type, last_name(type), parameter_names<Parameters...>());
 }
 
 template <typename Class>
 std::string destructor_name() {
-  return type_name<Class>() + "::~" + last_name<Class>() + "()";
+  const std::string type = type_name<Class>();
+  return member_name(type, '~' + last_name(type), "()");
 }
 
 template <typename Class, typename... Parameters>
 std::string member_name(const char* name, bool is_const = false) {
-  return type_name<Class>() + "::" + name + parameter_names<Parameters...>() +
-         (is_const ? " const" : "");
+  return member_name(type_name<Class>(), name, parameter_names<Parameters...>(), is_const);
 }
 
 }  // namespace Korvane::MemoryTests
