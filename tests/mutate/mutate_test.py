@@ -120,6 +120,8 @@ class Project:
         self.write("src/rules/rules.h", HEADER)
         self.write("src/rules/rules.cpp", SOURCE)
         self.write("tests/rules/rules_test.cpp", TEST)
+        subprocess.run(["cmake", "-S", folder, "-B", folder / "build" / "dev"], check=True,
+                       stdout=subprocess.DEVNULL)
 
     def write(self, name, text):
         path = self.folder / name
@@ -153,6 +155,9 @@ def main():
     parser.add_argument("--folder", required=True, type=pathlib.Path)
     arguments = parser.parse_args()
     project = Project(arguments.tool, arguments.folder)
+
+    code, output, _ = project.run("--tests", arguments.folder / "build")
+    check((1, True), (code, "is no build of the tests" in output), f"without a build of the tests\n{output}")
 
     code, output, results = project.run()
     for key in EXPECTED | results:
