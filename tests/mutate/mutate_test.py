@@ -163,6 +163,7 @@ def main():
     for key in EXPECTED | results:
         check(EXPECTED.get(key), results.get(key), f"{key}\n{output}")
     check(1, code, "exit code while mutants survive")
+    check(False, "A sample" in output, "all that were tried are called a sample")
 
     code, output, results = project.run()
     check(EXPECTED, results, "results of a second run")
