@@ -34,11 +34,6 @@ const Way& way_of(unsigned int number) {
   return ways[number % ways.size()];
 }
 
-// The other byte order is libavutil's.
-unsigned int bytes_reversed(unsigned int word) {
-  return word >> 24 | (word >> 8 & 0xFF00) | (word << 8 & 0xFF0000) | word << 24;
-}
-
 void check_against_libavutil(const Way& way, const Timecode& timecode) {
   const auto frame = static_cast<int>(timecode.absolute_frame_count());
   char text[AV_TIMECODE_STR_SIZE];
@@ -46,7 +41,7 @@ void check_against_libavutil(const Way& way, const Timecode& timecode) {
   expect(timecode.c_str(Timecode::DropFrameSemicolon, Timecode::FieldMarkFullRateFrames) ==
          std::string(text));
   expect(timecode.to_12m() ==
-         bytes_reversed(av_timecode_get_smpte_from_framenum(&way.reference, frame)));
+         Naive::bytes_reversed(av_timecode_get_smpte_from_framenum(&way.reference, frame)));
 }
 
 void check(const Way& way, const Naive::Frame& frame, const Timecode& timecode) {

@@ -34,6 +34,7 @@ void add_stream_cases(Cases& cases);
 void add_timecode_cases(Cases& cases);
 void add_track_cases(Cases& cases);
 
+// `check` looks at what `operation` leaves of the subject without memory.
 template <typename Subject>
 void add_case(Cases& cases, std::string name, std::function<Subject()> make,
               std::function<void(Subject&)> operation, std::function<void(Subject&)> check,

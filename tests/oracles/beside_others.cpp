@@ -1,8 +1,8 @@
 // What the library and others do with labels and words that do not exist, and without memory, as a
 // table; ends with 1 unless nothing in the library's own column went wrong.
 //
-// Labels and words are those of 30 drop-frame. Of labels, hour 24 is left out: the library takes it
-// for hour 0 of the next day. Words are drawn at random, the same in each run.
+// Labels and words are those of 30 drop-frame. Hour 24 is left out: the library takes it for hour 0
+// of the next day. Words are drawn at random, the same in each run.
 
 #include "oracles/beside_others.h"
 
@@ -34,20 +34,9 @@ bool exists(const Naive::Label& label) {
          !Naive::is_dropped(kDropFrame, label);
 }
 
-int digits(unsigned int word, int units_bit, int tens_bits) {
-  const unsigned int tens = word >> (units_bit + 4) & ((1U << tens_bits) - 1);
-  return static_cast<int>(tens * 10 + (word >> units_bit & 0xF));
-}
-
-Naive::Label label_of(unsigned int word) {
-  return {digits(word, 24, 2), digits(word, 16, 3), digits(word, 8, 3), digits(word, 0, 2)};
-}
-
 std::string text_of(const Naive::Label& label) {
-  char text[32];
-  std::snprintf(text, sizeof text, "%02d:%02d:%02d;%02d", label.hours, label.minutes, label.seconds,
-                label.frame);
-  return text;
+  return Naive::text_of(kDropFrame, label, Timecode::DropFrameSemicolon,
+                        Timecode::FieldMarkDotSuffix);
 }
 
 // ---- Reading a label and printing it again; empty when it is refused
@@ -72,8 +61,8 @@ std::string libavutil_again(const std::string& text) {
 std::string gstreamer_again(const std::string& text) {
   GstVideoTimeCode* const timecode = gst_video_time_code_new_from_string(text.c_str());
   if (timecode == nullptr) return "";
-  timecode->config.fps_n = 30000;
-  timecode->config.fps_d = 1001;
+  timecode->config.fps_n = kRealRate.num;
+  timecode->config.fps_d = kRealRate.den;
   std::string again;
   if (gst_video_time_code_is_valid(timecode) != FALSE) {
     char* const printed = gst_video_time_code_to_string(timecode);
@@ -95,10 +84,8 @@ std::string ours_of_word(unsigned int word) {
 }
 
 std::string libavutil_of_word(unsigned int word) {
-  const unsigned int reversed =
-      word >> 24 | (word >> 8 & 0xFF00) | (word << 8 & 0xFF0000) | word << 24;
   char text[AV_TIMECODE_STR_SIZE];
-  return av_timecode_make_smpte_tc_string2(text, {30, 1}, reversed, 0, 1);
+  return av_timecode_make_smpte_tc_string2(text, {30, 1}, Naive::bytes_reversed(word), 0, 1);
 }
 
 // The digits of the word in the frame of libltc, which parts them by user bits.
@@ -135,23 +122,23 @@ void print_row(const char* what, const Counts& counts) {
 using Again = std::string (*)(const std::string& text);
 constexpr Again kAgain[kLibraryCount] = {ours_again, libavutil_again, gstreamer_again, nullptr};
 
-struct LabelCounts {
-  Counts accepted;  // though they do not exist
-  Counts lost;      // refused, or printed otherwise, though they exist
+struct ReadingCounts {
+  Counts accepted;  // though there is no such label
+  Counts lost;      // refused, or printed otherwise, though there is
+
+  void add(std::size_t library, const Naive::Label& label, const std::string& shown) {
+    if (exists(label))
+      lost[library].add(shown != text_of(label));
+    else
+      accepted[library].add(!shown.empty());
+  }
 };
 
-LabelCounts read_labels() {
-  LabelCounts counts = {};
+ReadingCounts read_labels() {
+  ReadingCounts counts = {};
   const auto count_label = [&](const Naive::Label& label) {
-    const std::string text = text_of(label);
-    for (std::size_t library = 0; library < kLibraryCount; ++library) {
-      if (kAgain[library] == nullptr) continue;
-      const std::string again = kAgain[library](text);
-      if (exists(label))
-        counts.lost[library].add(again != text);
-      else
-        counts.accepted[library].add(!again.empty());
-    }
+    for (std::size_t library = 0; library < kLibraryCount; ++library)
+      if (kAgain[library] != nullptr) counts.add(library, label, kAgain[library](text_of(label)));
   };
   for (int hours = 0; hours < 30; ++hours)
     for (int minutes = 0; hours != 24 && minutes < 70; ++minutes)
@@ -164,17 +151,24 @@ using OfWord = std::string (*)(unsigned int word);
 constexpr OfWord kOfWord[kLibraryCount] = {ours_of_word, libavutil_of_word, nullptr,
                                            libltc_of_word};
 
-// Words whose digits are no label, drop-frame or not, and are shown as one.
-Counts read_words() {
-  constexpr int kWords = 1 << 18;
-  Counts counts = {};
+// A digit above 9 counts as 10 to 15 here and in libltc, as 0 in libavutil: no reading is the right
+// one.
+bool is_decimal(unsigned int word) {
+  for (const int bit : {0, 8, 16, 24})
+    if ((word >> bit & 0xF) > 9) return false;
+  return true;
+}
+
+ReadingCounts read_words() {
+  constexpr int kWords = 1 << 20;
+  ReadingCounts counts = {};
   std::mt19937 random;
   for (int i = 0; i < kWords; ++i) {
     const unsigned int word = static_cast<unsigned int>(random()) | 0x40U;  // drop-frame
-    const Naive::Label label = label_of(word);
-    if (label.hours == 24 || exists(label)) continue;
+    const Naive::Label label = Naive::label_of_word(word);
+    if (label.hours == 24 || !is_decimal(word)) continue;
     for (std::size_t library = 0; library < kLibraryCount; ++library)
-      if (kOfWord[library] != nullptr) counts[library].add(!kOfWord[library](word).empty());
+      if (kOfWord[library] != nullptr) counts.add(library, label, kOfWord[library](word));
   }
   return counts;
 }
@@ -183,15 +177,17 @@ int run() {
   std::printf("%-55s", "");
   for (const char* name : kNames) std::printf("%20s", name);
   std::printf("\n");
-  const LabelCounts labels = read_labels();
-  const Counts words = read_words();
+  const ReadingCounts labels = read_labels();
+  const ReadingCounts words = read_words();
   const MemoryCounts memory = run_without_memory();
   print_row("Labels that do not exist: accepted", labels.accepted);
   print_row("Labels that exist: refused, or printed otherwise", labels.lost);
-  print_row("Words that hold no label: shown as one", words);
+  print_row("Words that hold no label: shown as one", words.accepted);
+  print_row("Words that hold a label: refused, or shown otherwise", words.lost);
   print_row("Runs with an allocation failing: the process ended", memory.ended);
   print_row("Runs with an allocation failing: memory leaked", memory.leaked);
-  for (const Counts& counts : {labels.accepted, labels.lost, words, memory.ended, memory.leaked})
+  for (const Counts& counts :
+       {labels.accepted, labels.lost, words.accepted, words.lost, memory.ended, memory.leaked})
     if (counts[kOurs].wrong != 0 || counts[kOurs].of == 0) return 1;
   return 0;
 }

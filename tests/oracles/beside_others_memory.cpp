@@ -93,7 +93,7 @@ void libavutil_handle() {
 
 void gstreamer_timecodes() {
   GstVideoTimeCode* const timecode = gst_video_time_code_new(
-      30000, 1001, nullptr, GST_VIDEO_TIME_CODE_FLAGS_DROP_FRAME, 1, 2, 3, 4, 0);
+      kRealRate.num, kRealRate.den, nullptr, GST_VIDEO_TIME_CODE_FLAGS_DROP_FRAME, 1, 2, 3, 4, 0);
   GstVideoTimeCode* const copy = gst_video_time_code_copy(timecode);
   g_free(gst_video_time_code_to_string(copy));
   gst_video_time_code_free(copy);
@@ -136,7 +136,7 @@ enum class End { Well, Leaking, Early };
 End run_alone(Operation operation, long failing) {
   const pid_t child = fork();
   if (child == 0) {
-    if (std::freopen("/dev/null", "w", stderr) == nullptr) _exit(2);
+    if (std::freopen("/dev/null", "w", stderr) == nullptr) std::abort();
     const long live = FailingMalloc::live();
     FailingMalloc::fail(failing);
     operation();
@@ -157,9 +157,9 @@ MemoryCounts run_without_memory() {
     for (const Operation operation : kRuns[library]) {
       if (operation == nullptr) continue;
       operation();  // what is made once for the whole process
-      const long before = FailingMalloc::made();
+      const long before = FailingMalloc::asked();
       operation();
-      const long needed = FailingMalloc::made() - before;
+      const long needed = FailingMalloc::asked() - before;
       for (long failing = 1; failing <= needed; ++failing) {
         const End end = run_alone(operation, failing);
         counts.ended[library].add(end == End::Early);

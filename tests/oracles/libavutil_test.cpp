@@ -16,10 +16,6 @@ namespace {
 using ::testing::AssertionFailure;
 using ::testing::AssertionSuccess;
 
-constexpr unsigned int bytes_reversed(unsigned int word) {
-  return word >> 24 | (word >> 8 & 0xFF00) | (word << 8 & 0xFF0000) | word << 24;
-}
-
 class LibavutilDay : public ::testing::TestWithParam<Counting> {
  protected:
   void SetUp() override {
@@ -69,7 +65,7 @@ TEST_P(LibavutilDay, Packs) {
     const unsigned int of_label =
         av_timecode_get_smpte(rate_, counting_.drop ? 1 : 0, timecode.hours(), timecode.minutes(),
                               timecode.seconds(), timecode.frames_ignore_field_mark());
-    const unsigned int word = bytes_reversed(timecode.to_12m());
+    const unsigned int word = Naive::bytes_reversed(timecode.to_12m());
     if (word != of_count)
       return differs("packing", timecode, Naive::show_word(of_count), Naive::show_word(word));
     if (word != of_label)
@@ -81,7 +77,7 @@ TEST_P(LibavutilDay, Packs) {
 TEST_P(LibavutilDay, Unpacks) {
   EXPECT_TRUE(each_frame(counting_, [&](const Timecode& timecode) {
     const unsigned int word = av_timecode_get_smpte_from_framenum(&reference_, count_of(timecode));
-    const Timecode unpacked(counting_.rate, bytes_reversed(word));
+    const Timecode unpacked(counting_.rate, Naive::bytes_reversed(word));
     if (unpacked.frame_count() != timecode.frame_count())
       return differs("unpacking", timecode, timecode.frame_count(), unpacked.frame_count());
     return AssertionSuccess();

@@ -17,18 +17,19 @@ void __libc_free(void* memory);
 
 namespace {
 
-std::atomic<long> made_count{0};
-std::atomic<long> freed_count{0};
+std::atomic<long> asked_count{0};
+std::atomic<long> live_count{0};
 std::atomic<long> left_until_failure{0};
 
 bool next_fails() {
+  ++asked_count;
   if (left_until_failure == 0 || --left_until_failure != 0) return false;
   errno = ENOMEM;
   return true;
 }
 
 void* counted(void* memory) {
-  if (memory != nullptr) ++made_count;
+  if (memory != nullptr) ++live_count;
   return memory;
 }
 
@@ -36,8 +37,8 @@ void* counted(void* memory) {
 
 namespace Korvane::FailingMalloc {
 
-long made() { return made_count; }
-long live() { return made_count - freed_count; }
+long asked() { return asked_count; }
+long live() { return live_count; }
 void fail(long failing) { left_until_failure = failing; }
 
 }  // namespace Korvane::FailingMalloc
@@ -51,12 +52,11 @@ void* calloc(std::size_t count, std::size_t size) {
   return next_fails() ? nullptr : counted(__libc_calloc(count, size));
 }
 
-// Of a size other than 0: what it gives back takes the place of what it is given.
 void* realloc(void* memory, std::size_t size) {
   if (next_fails()) return nullptr;
   void* const moved = __libc_realloc(memory, size);
   if (memory == nullptr) return counted(moved);
-  if (moved == nullptr && size == 0) ++freed_count;
+  if (moved == nullptr && size == 0) --live_count;  // that freed it
   return moved;
 }
 
@@ -75,7 +75,7 @@ int posix_memalign(void** memory, std::size_t alignment, std::size_t size) {
 
 void free(void* memory) {
   if (memory == nullptr) return;
-  ++freed_count;
+  --live_count;
   __libc_free(memory);
 }
 }

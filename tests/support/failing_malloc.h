@@ -6,8 +6,10 @@
 
 namespace Korvane::FailingMalloc {
 
-// Since the start of the program.
-long made();
+// How often memory was asked for since the start of the program; a realloc asks, too.
+long asked();
+
+// How many blocks are in use.
 long live();
 
 // Makes the `failing`-th allocation from now on fail, only that one; 0 makes none fail.

@@ -205,6 +205,23 @@ inline unsigned int as_decimal_digits(int number) {
   return static_cast<unsigned int>(number / 10 * 16 + number % 10);
 }
 
+// The digits of a word of 32 bits; the frame is the number that stands there, in pairs above
+// rate 30.
+inline int field_of_word(unsigned int word, int units_bit, int tens_bits) {
+  const unsigned int units = word >> units_bit & 0xF;
+  const unsigned int tens = word >> (units_bit + 4) & ((1U << tens_bits) - 1);
+  return static_cast<int>(tens * 10 + units);
+}
+inline Label label_of_word(unsigned int word) {
+  return {field_of_word(word, 24, 2), field_of_word(word, 16, 3), field_of_word(word, 8, 3),
+          field_of_word(word, 0, 2)};
+}
+
+// The order in which libavutil has the bytes of a word.
+constexpr unsigned int bytes_reversed(unsigned int word) {
+  return word >> 24 | (word >> 8 & 0xFF00) | (word << 8 & 0xFF0000) | word << 24;
+}
+
 // hhmmssff as eight digits.
 inline unsigned int digits_of(const Counting& counting, const Label& label) {
   return as_decimal_digits(label.hours) << 24 | as_decimal_digits(label.minutes) << 16 |

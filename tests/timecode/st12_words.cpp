@@ -30,16 +30,9 @@ struct Fields {
   bool field_mark;
 };
 
-int field(unsigned int word, int units_bit, int tens_bits) {
-  const unsigned int units = word >> units_bit & 0xF;
-  const unsigned int tens = word >> (units_bit + 4) & ((1U << tens_bits) - 1);
-  return static_cast<int>(tens * 10 + units);
-}
-
 Fields fields_of(unsigned short rate, unsigned int word) {
   const bool pairs = rate == 50 || rate == 60;
-  return {{field(word, 24, 2), field(word, 16, 3), field(word, 8, 3), field(word, 0, 2)},
-          (rate == 30 || rate == 60) && (word & 0x40) != 0,
+  return {Naive::label_of_word(word), (rate == 30 || rate == 60) && (word & 0x40) != 0,
           pairs && (word & (rate == 50 ? 0x80000000 : 0x8000)) != 0};
 }
 
